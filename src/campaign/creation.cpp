@@ -1,0 +1,167 @@
+#include <array>
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+#include "campaign/abilitytable.h"
+#include "campaign/bonustable.h"
+#include "campaign/screens.h"
+#include "shell/pages.h"
+#include "shell/speech.h"
+#include "values/utf8.h"
+
+namespace duskmarch {
+namespace {
+
+// The entries before the last, which finishes.
+enum Entry { nameentry = 1, genderentry, firstbonus, secondbonus, thirdbonus };
+
+struct GenderWords {
+  std::string_view described;
+  std::string_view set;
+};
+
+constexpr std::array<GenderWords, gender::genderless> genderwords = {{
+    {"a male", "male"},
+    {"a female", "female"},
+    {"genderless", "genderless"},
+}};
+
+Mob& newcomer(Game& game) {
+  return game.mob(game.selected);
+}
+
+int nextof3(int choice) {
+  return choice >= 3 ? 1 : choice + 1;
+}
+
+const GenderWords& words(int gender) {
+  return genderwords[static_cast<std::size_t>(gender - 1)];
+}
+
+void speakname(Game& game) {
+  const std::string& name = newcomer(game).mobname;
+  sayit(game, name.empty() ? "Give your vigilante a name (no spaces)."
+                           : name + ".  Press Enter to set a new name.");
+}
+
+// A name is one word, and one line of the saved game.
+std::string withoutgaps(std::string text) {
+  std::erase_if(text, [](char c) { return c == ' ' || c == '\r' || c == '\n'; });
+  return text;
+}
+
+void askname(Game& game) {
+  constexpr std::string_view prompt = "Enter your vigilantes name, or leave blank to cancel.";
+  const bool ownvoice = game.speechmode == 0;
+  if (ownvoice) sayit(game, prompt);
+  const std::string name = withoutgaps(inputbox(game, "Name", prompt, ownvoice));
+  if (name.empty()) {
+    sayit(game, "Canceled.");
+    return;
+  }
+  newcomer(game).mobname = name;
+  sayit(game, "Name set to " + name);
+}
+
+void speakgender(Game& game) {
+  Number& chosen = newcomer(game).gender;
+  if (chosen < gender::male || chosen > gender::genderless) chosen = gender::male;
+  sayit(game, "This vigilante is " + std::string(words(chosen).described) +
+                  ".  Press Enter to change it.");
+}
+
+void changegender(Game& game) {
+  Number& chosen = newcomer(game).gender;
+  chosen = nextof3(chosen);
+  sayit(game, "Set to " + std::string(words(chosen).set) + ".");
+}
+
+int& choiceof(Game& game, Bonuses which) {
+  switch (which) {
+    case Bonuses::first: return game.bonus1;
+    case Bonuses::second: return game.bonus2;
+    default: return game.bonus3;
+  }
+}
+
+const Bonus& chosenbonus(Game& game, Bonuses which) {
+  return bonusgroup(which).choices[static_cast<std::size_t>(choiceof(game, which) - 1)];
+}
+
+void describebonus(Game& game, const Bonus& bonus, std::string_view before,
+                   std::string_view after) {
+  std::string text(before);
+  text.append(bonus.name).append(after).append(".  ").append(bonus.description);
+  sayit(game, text + "  Press Enter to change it.");
+}
+
+void speakbonus(Game& game, Bonuses which) {
+  describebonus(game, chosenbonus(game, which), std::string(bonusgroup(which).title) + ", ", "");
+}
+
+void changebonus(Game& game, Bonuses which) {
+  int& choice = choiceof(game, which);
+  choice = nextof3(choice);
+  describebonus(game, chosenbonus(game, which), "", " bonus");
+}
+
+bool nametaken(Game& game) {
+  int bearers = 0;  // the newcomer is one
+  for (int slot = 1; slot <= heroslots; ++slot) {
+    if (equalignoringcase(game.mob(slot).mobname, newcomer(game).mobname)) ++bearers;
+  }
+  return bearers >= 2;
+}
+
+void startvalues(Mob& hero) {
+  hero.aliance = aliance::heroes;
+  hero.mobtype = mobtype::hero;
+  hero.maxhealth = 8;
+  hero.health = 8;
+  hero.maxfight = 4;
+  hero.fight = 4;
+  hero.abilitycount = 0;
+  hero.gun = 0;
+}
+
+void finish(Game& game) {
+  if (nametaken(game)) {
+    sayit(game, "This name has already been used.");
+    return;
+  }
+  startvalues(newcomer(game));
+  for (const Bonuses which : {Bonuses::third, Bonuses::second, Bonuses::first}) {
+    for (const std::string_view ability : chosenbonus(game, which).abilities) {
+      learn(game, game.selected, ability);
+    }
+  }
+  sayit(game, newcomer(game).mobname + " recruited.  Back at the hideout.");
+  enterscreen(game, screen::hideout);
+}
+
+}  // namespace
+
+void speakcreation(Game& game) {
+  switch (game.menupos) {
+    case nameentry: return speakname(game);
+    case genderentry: return speakgender(game);
+    case firstbonus: return speakbonus(game, Bonuses::first);
+    case secondbonus: return speakbonus(game, Bonuses::second);
+    case thirdbonus: return speakbonus(game, Bonuses::third);
+    default: return sayit(game, "Finish character creation");
+  }
+}
+
+void performcreation(Game& game, int /*shift*/) {
+  switch (game.menupos) {
+    case nameentry: return askname(game);
+    case genderentry: return changegender(game);
+    case firstbonus: return changebonus(game, Bonuses::first);
+    case secondbonus: return changebonus(game, Bonuses::second);
+    case thirdbonus: return changebonus(game, Bonuses::third);
+    default: return finish(game);
+  }
+}
+
+}  // namespace duskmarch

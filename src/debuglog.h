@@ -1,0 +1,16 @@
+// debuglog.txt in the program folder: what went wrong and was survived.
+#pragma once
+
+#include <filesystem>
+#include <string_view>
+
+#include "game.h"
+
+namespace duskmarch {
+
+// Appends one line; a log that cannot be written is not missed.
+void logline(const std::filesystem::path& programfolder, std::string_view line);
+// Appends "error in " + procedure + ": " + description.
+void logerror(const Game& game, std::string_view procedure, std::string_view description);
+
+}  // namespace duskmarch

@@ -1,0 +1,199 @@
+// All state of a run of the game, in one object that every procedure takes as `Game&`.
+#pragma once
+
+#include <array>
+#include <deque>
+#include <filesystem>
+#include <memory>
+#include <random>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/desktop.h"
+#include "values/number.h"
+#include "values/saidlines.h"
+
+namespace duskmarch {
+
+// `menuname`: the screen that the keys act on.
+namespace screen {
+inline constexpr int map = 0;  // the mission's map cursor; the only one that is no menu
+inline constexpr int mainmenu = 1;
+inline constexpr int creation = 2;
+inline constexpr int options = 3;  // the mission's option list
+inline constexpr int upgrades = 4;
+inline constexpr int hideout = 5;
+}  // namespace screen
+
+namespace aliance {
+inline constexpr int none = 0;
+inline constexpr int heroes = 1;
+inline constexpr int enemies = 2;
+}  // namespace aliance
+
+namespace mobtype {
+inline constexpr int hero = 1;
+inline constexpr int ordinary = 2;
+inline constexpr int gunman = 3;
+inline constexpr int gifted = 4;  // an enemy with abilities of its own
+}  // namespace mobtype
+
+namespace gender {
+inline constexpr int male = 1;
+inline constexpr int female = 2;
+inline constexpr int genderless = 3;
+}  // namespace gender
+
+struct Ability {
+  std::string abilityname;
+  Number abilityuses;   // left now
+  Number abilityextra;  // held when the mission began; a victory gives them back
+};
+
+// One combatant. A slot's fields are kept as the saved game keeps them.
+struct Mob {
+  std::string mobname;
+  Number gender;
+  Number aliance;
+  Number mobtype;
+  Number health;  // above 0: conscious, and taking part
+  Number maxhealth;
+  Number mobx;    // column, 1 at the west edge
+  Number moby;    // row, 1 at the north edge
+  Number startx;  // where the last move began; saved, never read
+  Number starty;
+  std::string action;  // planned-action tags
+  Number abilitycount;
+  std::vector<Ability> abilities;  // slot k at index k; 0 unused; may hold more than are counted
+  std::string status;              // condition tags
+  Number reserve;                  // the three reserves are saved, never read
+  Number maxreserve;
+  Number fight;  // current fighting skill
+  Number maxfight;
+  Number gun;  // damage of one shot; 0 for no gun
+  Number reserve2;
+  Number engaged;       // 1: held in a hand-to-hand fight
+  Number target;        // slot of the mob it fights; 0 for none
+  Number earnedpoints;  // upgrade points earned in missions, paid out again at each victory
+  Number rested;        // 1: no blows exchanged during this end of turn
+  Number hasmoved;      // 1: the move of this turn is taken
+  Number hasacted;      // 1: the ability action of this turn is taken
+  Number spawntime;     // the end of turn on which it arrives; 0: there from the start
+  std::string spawntext;
+  Number upgradepoints;  // a hero's unspent points
+};
+
+// One piece of furniture, on the map while its `itemhealth` is above 0.
+struct Item {
+  std::string itemname;  // "Table" or "Chair"
+  int itemx = 0;
+  int itemy = 0;
+  int itemhealth = 0;
+  int itemmaxhealth = 0;
+};
+
+// The text of the turn summary. Its lines are kept oldest first and put together when somebody
+// looks, so that a text whose newest line stands on top grows in constant time.
+struct SummaryText {
+  std::vector<std::string> lines = {"Text1"};
+  // The lines, newest first, parted by CR LF.
+  std::string text() const;
+};
+
+// Where key presses go.
+enum class Focus { window, summarylabel, storylabel };
+
+struct KeyPress {
+  int keycode = 0;  // a virtual key code, see shell/keycodes.h
+  int shift = 0;    // 1 Shift, 2 Ctrl, 4 Alt, summed
+};
+
+inline constexpr int lastslot = 99;  // of the mob and item tables and of a mob's abilities
+inline constexpr int heroslots = 3;  // slots 1 to 3 are the campaign's heroes
+inline constexpr int gridsize = 16;  // `tilefx` runs from 0 to 15 both ways
+inline constexpr int soundbuffercount = 50;
+
+struct Game {
+  explicit Game(Desktop& outside) : desktop(outside) {}
+  Game(const Game&) = delete;
+  Game& operator=(const Game&) = delete;
+
+  Desktop& desktop;
+  std::filesystem::path programfolder;
+  std::mt19937 random;  // drawn from by draw() in world/chance.h alone
+
+  // The shell.
+  std::string version;
+  std::string caption = "Duskmarch";  // the window title
+  Focus focus = Focus::window;
+  std::deque<KeyPress> waitingkeys;  // pressed while a key's handler was at work
+  bool keyhandlerbusy = false;
+  void (*handlekey)(Game&, KeyPress) = nullptr;  // what a key does; set at start-up
+  bool sendingkeys = false;                      // the synthetic keys of mode 2 are on their way
+  bool ended = false;                            // the program is ending; no key acts any more
+  bool writefailuretold = false;  // the player knows that the folder cannot be written to
+
+  // Speech.
+  int speechmode = 0;
+  int sapirate = 2;
+  std::unique_ptr<Voice> sapivoice;
+  int sapiready = 0;
+  std::unique_ptr<JawsApi> jawsapi;
+  int jawsready = 0;
+  std::string progressspare;  // the third line of progress.ini, carried from file to file
+  SaidLines saidlines;
+  int reviewpos = 0;     // 0: not reviewing; else the history line being reviewed
+  int printedlines = 0;  // index of the last line that the previous sayit() painted
+
+  // Sound.
+  std::unique_ptr<SoundDevice> dsound;
+  int maxbuffer = 0;                                     // the highest buffer
+  int nextbuffer = 0;                                    // the rotation: 2 to maxbuffer
+  std::array<std::string, soundbuffercount> bufferfile;  // what each buffer holds
+  std::array<double, 630> sintable{};
+  std::array<double, 630> costable{};
+
+  // Menus and the campaign.
+  int menuname = 0;
+  int menupos = 0;  // the current entry, from 1; 0: none reached yet
+  int bonus1 = 0;   // the bonuses of the vigilante being created
+  int bonus2 = 0;
+  int bonus3 = 0;
+  std::string storyword;
+
+  // The mission.
+  Number missionnumber;
+  bool missionunderway = false;
+  std::string objective;
+  int turnnumber = 0;
+  SummaryText summarylabel;
+  std::string storylabel = "Text1";  // text of the story page
+  std::string turnsummary;           // this turn's narration, each line after two spaces
+  std::deque<std::string> list1;     // message log, newest line first
+  std::vector<std::string> list2;    // the option list
+  std::vector<std::string> list3;    // what the enemy being planned may do
+  int listingfor = 0;                // the enemy whose options are being listed; else 0
+  std::string command3;              // caption of the button that selects the next hero
+
+  // The world.
+  int mobcount = 0;
+  std::array<Mob, lastslot + 1> mobs;  // slot 0 is never used
+  int itemcount = 0;
+  std::array<Item, lastslot + 1> items;  // slot 0 is never used
+  int mapwidth = 0;
+  int mapheight = 0;
+  std::array<std::array<std::string, gridsize>, gridsize> tilefx;  // [x][y]; see tiletags()
+  int cursorx = 0;
+  int cursory = 0;
+  int cursormode = 0;   // 1: the arrows move the map cursor
+  int selected = 0;     // the hero that acts, is created or upgraded
+  int reportedmob = 0;  // the enemy last described
+
+  Mob& mob(int slot) { return mobs[static_cast<std::size_t>(slot)]; }
+  const Mob& mob(int slot) const { return mobs[static_cast<std::size_t>(slot)]; }
+  Item& item(int slot) { return items[static_cast<std::size_t>(slot)]; }
+  const Item& item(int slot) const { return items[static_cast<std::size_t>(slot)]; }
+};
+
+}  // namespace duskmarch

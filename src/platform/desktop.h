@@ -1,0 +1,170 @@
+// What the game asks of a desktop. Every class here is implemented once per front end (the Qt
+// window, the scripted stand-in, and one day a native Windows window); the rules see nothing else
+// of the outside world but files in the program folder.
+//
+// Unless a call says otherwise it returns at once: no speech or sound call may wait for an engine,
+// a service or a device. A call that fails throws PlatformError with words fit for the log.
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <filesystem>
+#include <memory>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+namespace duskmarch {
+
+class PlatformError : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+struct Colour {
+  std::uint8_t red = 0;
+  std::uint8_t green = 0;
+  std::uint8_t blue = 0;
+  bool operator==(const Colour&) const = default;
+};
+
+// In pixels of the window's inner area, origin top left; right and bottom lie outside.
+struct Rect {
+  int left = 0;
+  int top = 0;
+  int right = 0;
+  int bottom = 0;
+};
+
+// The window's drawing surface. What is drawn stays until it is painted over.
+class Canvas {
+ public:
+  virtual ~Canvas() = default;
+  virtual int width() const = 0;
+  virtual int height() const = 0;
+  virtual void fill(const Rect& area, Colour colour) = 0;
+  virtual void outline(const Rect& area, Colour colour) = 0;
+  // `x`, `y` is the top left corner of the text; a missing font falls back to a similar one.
+  virtual void text(int x, int y, std::string_view font, int points, Colour colour,
+                    std::string_view text) = 0;
+};
+
+// The one window. Key presses reach the game through keypress() in shell/keyboard.h.
+class Window {
+ public:
+  virtual ~Window() = default;
+  // Sets the title and announces the change to a screen reader, also when it is the same text.
+  virtual void settitle(std::string_view title) = 0;
+  // The surface to draw on, or null while nobody could see it (no inner area, a script).
+  virtual Canvas* canvas() = 0;
+  // Handles the pending events: paints and timers run before it returns, key presses are passed to
+  // keypress(), which keeps them until the handler at work is done.
+  virtual void processevents() = 0;
+  // Returns after `duration`; paints, timers and key presses are handled meanwhile.
+  virtual void wait(std::chrono::milliseconds duration) = 0;
+  // A key event as if typed, where the system has a screen reader that listens for one.
+  virtual void sendkey(int keycode, bool down) = 0;
+};
+
+// A read-only text view that covers the window while it is shown, readable line by line by a
+// screen reader. Key presses in it reach the game through keypress() too; it keeps the ordinary
+// caret keys for itself, and tells the game by caretmoved() (shell/selfreading.h) where they led.
+class Page {
+ public:
+  virtual ~Page() = default;
+  // Becomes visible with `text` (lines parted by CR LF), the caret at its start.
+  virtual void show(std::string_view text) = 0;
+  virtual void hide() = 0;
+  virtual void focus() = 0;
+};
+
+// Modal: both return when the player has closed the box, and the window works on meanwhile.
+class Dialogs {
+ public:
+  virtual ~Dialogs() = default;
+  // What the player typed, or nothing when the box was cancelled. While no screen reader is
+  // attached every typed text is handed to echotyped() (shell/selfreading.h).
+  virtual std::string input(std::string_view title, std::string_view prompt) = 0;
+  // An empty title means the program's own.
+  virtual void message(std::string_view title, std::string_view text) = 0;
+};
+
+// The voice that the game drives itself.
+class Voice {
+ public:
+  virtual ~Voice() = default;
+  // 1 (slow) to 10 (fast); holds from the next text on.
+  virtual void setrate(int rate) = 0;
+  // Cuts off what is being said and starts `text`; an empty text only cuts off.
+  virtual void speak(std::string_view text) = 0;
+  // Says `text` after what is being said; the next speak() cuts it off like anything else.
+  virtual void speakafter(std::string_view text) = 0;
+};
+
+// The speech engine of mode 3: JAWS on Windows, the system's speech service on Linux.
+class JawsApi {
+ public:
+  virtual ~JawsApi() = default;
+  // Says `text` after what it is saying already.
+  virtual void saystring(std::string_view text) = 0;
+  // The player pressed a key: like any screen reader, stop what is being said.
+  virtual void interrupt() = 0;
+};
+
+// A sound device with numbered buffers for effects.
+class SoundDevice {
+ public:
+  virtual ~SoundDevice() = default;
+  // Replaces what `buffer` holds by the sound in `file`, stopped, at full volume and centred.
+  // `name` is what the game calls it. On an error the buffer keeps what it held.
+  virtual void load(int buffer, std::string_view name, const std::filesystem::path& file) = 0;
+  // Hundredths of a decibel, -5000 to 0.
+  virtual void setvolume(int buffer, int volume) = 0;
+  // -10000 (left) to 10000 (right): the far side is attenuated by |pan| hundredths of a decibel.
+  virtual void setpan(int buffer, int pan) = 0;
+  // From the start; `loop` repeats it until it is replaced. A buffer never loaded stays silent.
+  virtual void play(int buffer, bool loop) = 0;
+};
+
+// One music file being played. Destroying it ends the music.
+class MusicGraph {
+ public:
+  virtual ~MusicGraph() = default;
+  // Hundredths of a decibel, -5000 to 0.
+  virtual void setvolume(int volume) = 0;
+  virtual void setbalance(int balance) = 0;
+  // Seconds from the start.
+  virtual void setposition(double seconds) = 0;
+  // Starts playing, or goes on.
+  virtual void run() = 0;
+};
+
+// The program, its folder, and the engines it can start.
+class System {
+ public:
+  virtual ~System() = default;
+  // The folder that holds the program, its sounds and its files.
+  virtual std::filesystem::path programfolder() const = 0;
+  // What the random generator is seeded with: seconds since midnight.
+  virtual std::uint32_t secondssincemidnight() const = 0;
+  // Each throws PlatformError when there is no such engine; createmusic() also when `file` is no
+  // MP3 that can be played. Only opensound() may take a while.
+  virtual std::unique_ptr<Voice> createvoice() = 0;
+  virtual std::unique_ptr<JawsApi> createjaws() = 0;
+  virtual std::unique_ptr<SoundDevice> opensound() = 0;
+  virtual std::unique_ptr<MusicGraph> createmusic(const std::filesystem::path& file) = 0;
+  // Whether a screen reader reads the window, its pages and its dialogs.
+  virtual bool readerattached() const = 0;
+  // Ends the program once the handler at work has returned.
+  virtual void end() = 0;
+};
+
+struct Desktop {
+  System& system;
+  Window& window;
+  Page& summarylabel;
+  Page& storylabel;
+  Dialogs& dialogs;
+};
+
+}  // namespace duskmarch

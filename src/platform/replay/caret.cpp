@@ -1,0 +1,54 @@
+#include "platform/replay/caret.h"
+
+#include <algorithm>
+
+#include "shell/keycodes.h"
+#include "values/utf8.h"
+
+namespace duskmarch {
+
+Caret::Caret(std::string_view text) {
+  for (std::size_t start = 0; start <= text.size();) {
+    const std::size_t end = std::min(text.find("\r\n", start), text.size());
+    lines_.emplace_back(text.substr(start, end - start));
+    start = end + 2;
+  }
+  if (lines_.empty()) lines_.emplace_back();
+}
+
+std::string_view Caret::move(int keycode) {
+  switch (keycode) {
+    case key::up: return moveline(false);
+    case key::down: return moveline(true);
+    case key::left: return movecharacter(false);
+    case key::right: return movecharacter(true);
+    case key::home: column_ = 0; return {};
+    case key::end: column_ = codepoints(line()); return {};
+    default: return {};
+  }
+}
+
+std::string_view Caret::moveline(bool down) {
+  if (down && line_ + 1 < lines_.size()) ++line_;
+  if (!down && line_ > 0) --line_;
+  column_ = std::min(column_, codepoints(line()));
+  return line();
+}
+
+std::string_view Caret::movecharacter(bool forward) {
+  if (forward && column_ == codepoints(line()) && line_ + 1 < lines_.size()) {
+    ++line_;
+    column_ = 0;
+    return line();
+  }
+  if (!forward && column_ == 0 && line_ > 0) {
+    --line_;
+    column_ = codepoints(line());
+    return line();
+  }
+  if (forward) column_ = std::min(column_ + 1, codepoints(line()));
+  if (!forward && column_ > 0) --column_;
+  return codepointrange(line(), column_, 1);
+}
+
+}  // namespace duskmarch

@@ -1,0 +1,30 @@
+// The caret of a text page: what the arrow keys reach, line by line and character by character.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace duskmarch {
+
+class Caret {
+ public:
+  // Starts at the top of a text whose lines are parted by CR LF.
+  explicit Caret(std::string_view text = "");
+
+  // Moves by a key and tells what came under the caret: for an arrow up or down the line, for left
+  // and right the character, or the line when it is another one. Other keys tell nothing.
+  std::string_view move(int keycode);
+
+ private:
+  std::string_view line() const { return lines_[line_]; }
+  std::string_view moveline(bool down);
+  std::string_view movecharacter(bool forward);
+
+  std::vector<std::string> lines_;
+  std::size_t line_ = 0;
+  std::size_t column_ = 0;  // in code points
+};
+
+}  // namespace duskmarch

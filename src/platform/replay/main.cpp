@@ -1,0 +1,93 @@
+// duskmarch-replay: the game played from a script, written out as a transcript.
+#include <cstdio>
+#include <filesystem>
+#include <iostream>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "platform/replay/replaysession.h"
+#include "platform/replay/seednumber.h"
+
+namespace {
+
+using namespace duskmarch;
+
+constexpr std::string_view usage =
+    "usage: duskmarch-replay --folder DIR [--seed N] [--no-voice] [--jaws] [--no-reader]"
+    " < script > transcript";
+constexpr int failure = 2;
+constexpr std::size_t flushsize = 1 << 16;
+
+struct BadArguments : std::runtime_error {
+  using std::runtime_error::runtime_error;
+};
+
+ReplayOptions parsearguments(std::span<char*> arguments) {
+  ReplayOptions options;
+  std::size_t next = 1;
+  const auto value = [&](std::string_view option) -> std::string_view {
+    if (next >= arguments.size()) throw BadArguments(std::string(option) + " needs a value");
+    return arguments[next++];
+  };
+  while (next < arguments.size()) {
+    const std::string_view option = arguments[next++];
+    if (option == "--folder") {
+      options.folder = value(option);
+    } else if (option == "--seed") {
+      const auto seed = parseseed(value(option));
+      if (!seed) throw BadArguments("--seed needs a whole number");
+      options.seed = *seed;
+    } else if (option == "--no-voice") {
+      options.voice = false;
+    } else if (option == "--jaws") {
+      options.jaws = true;
+    } else if (option == "--no-reader") {
+      options.reader = false;
+    } else {
+      throw BadArguments("no such argument: " + std::string(option));
+    }
+  }
+  if (options.folder.empty()) throw BadArguments("--folder is required");
+  if (std::error_code error; !std::filesystem::is_directory(options.folder, error)) {
+    throw BadArguments("no such folder: " + options.folder.string());
+  }
+  return options;
+}
+
+void flush(Transcript& transcript) {
+  const std::string& text = transcript.text();
+  std::fwrite(text.data(), 1, text.size(), stdout);
+  transcript.clear();
+}
+
+int play(const ReplayOptions& options) {
+  ReplaySession session(options);
+  Transcript& transcript = session.replay.transcript;
+  std::string line;
+  for (int number = 1; !session.game.ended && std::getline(std::cin, line); ++number) {
+    try {
+      session.perform(line);
+    } catch (const BadCommand& error) {
+      flush(transcript);
+      std::fflush(stdout);
+      std::cerr << "duskmarch-replay: line " << number << ": " << error.what() << '\n';
+      return failure;
+    }
+    if (transcript.text().size() >= flushsize) flush(transcript);
+  }
+  flush(transcript);
+  return std::fflush(stdout) == 0 ? 0 : failure;
+}
+
+}  // namespace
+
+int main(int count, char** arguments) {
+  std::ios::sync_with_stdio(false);
+  try {
+    return play(parsearguments(std::span(arguments, static_cast<std::size_t>(count))));
+  } catch (const BadArguments& error) {
+    std::cerr << "duskmarch-replay: " << error.what() << '\n' << usage << '\n';
+    return failure;
+  }
+}

@@ -1,0 +1,123 @@
+// A desktop without a desktop: everything that the game shows, says and plays becomes a line of a
+// transcript, and what the player would type comes from a queue.
+#pragma once
+
+#include <cstdint>
+#include <deque>
+#include <filesystem>
+#include <optional>
+#include <string>
+
+#include "platform/desktop.h"
+#include "platform/replay/caret.h"
+#include "platform/replay/transcript.h"
+
+namespace duskmarch {
+
+struct Game;
+
+struct ReplayOptions {
+  std::filesystem::path folder;  // the program folder
+  std::uint32_t seed = 1;
+  bool voice = true;   // the voice can be created
+  bool jaws = false;   // the JAWS interface can be created
+  bool reader = true;  // a screen reader is attached
+};
+
+class ReplaySystem final : public System {
+ public:
+  ReplaySystem(ReplayOptions options, Transcript& transcript);
+  std::filesystem::path programfolder() const override { return options_.folder; }
+  std::uint32_t secondssincemidnight() const override { return options_.seed; }
+  std::unique_ptr<Voice> createvoice() override;
+  std::unique_ptr<JawsApi> createjaws() override;
+  std::unique_ptr<SoundDevice> opensound() override;
+  std::unique_ptr<MusicGraph> createmusic(const std::filesystem::path& file) override;
+  bool readerattached() const override { return options_.reader; }
+  void end() override;
+
+ private:
+  ReplayOptions options_;
+  Transcript& transcript_;
+};
+
+class ReplayWindow final : public Window {
+ public:
+  explicit ReplayWindow(Transcript& transcript) : transcript_(transcript) {}
+  void settitle(std::string_view title) override;
+  Canvas* canvas() override { return canvas_; }
+  void processevents() override {}
+  void wait(std::chrono::milliseconds duration) override;
+  void sendkey(int keycode, bool down) override;
+  // Drawing goes there; null: nowhere.
+  void drawon(Canvas* canvas) { canvas_ = canvas; }
+
+ private:
+  Transcript& transcript_;
+  Canvas* canvas_ = nullptr;
+};
+
+class ReplayCanvas final : public Canvas {
+ public:
+  explicit ReplayCanvas(Transcript& transcript) : transcript_(transcript) {}
+  int width() const override { return 1288; }
+  int height() const override { return 660; }
+  void fill(const Rect& area, Colour colour) override;
+  void outline(const Rect& area, Colour colour) override;
+  void text(int x, int y, std::string_view font, int points, Colour colour,
+            std::string_view text) override;
+
+ private:
+  void shape(std::string_view name, const Rect& area, Colour colour);
+  Transcript& transcript_;
+};
+
+class ReplayPage final : public Page {
+ public:
+  ReplayPage(std::string_view name, Transcript& transcript)
+      : name_(name), transcript_(transcript) {}
+  void show(std::string_view text) override;
+  void hide() override { transcript_.event("hide", name_); }
+  void focus() override { transcript_.event("focus", name_); }
+  // What a caret key reaches in the text shown; empty for other keys.
+  std::string_view movecaret(int keycode);
+
+ private:
+  std::string_view name_;
+  Transcript& transcript_;
+  std::string text_;
+  std::optional<Caret> caret_;  // made at the first caret key
+};
+
+class ReplayDialogs final : public Dialogs {
+ public:
+  explicit ReplayDialogs(Transcript& transcript) : transcript_(transcript) {}
+  std::string input(std::string_view title, std::string_view prompt) override;
+  void message(std::string_view title, std::string_view text) override;
+
+  std::deque<std::optional<std::string>> answers;  // nothing: the box is cancelled
+  Game* game = nullptr;                            // hears what is typed
+
+ private:
+  Transcript& transcript_;
+};
+
+class ReplayDesktop {
+ public:
+  explicit ReplayDesktop(const ReplayOptions& options);
+  // What the game is constructed with.
+  Desktop& desktop() { return desktop_; }
+
+  Transcript transcript;
+  ReplaySystem system;
+  ReplayWindow window;
+  ReplayCanvas canvas;
+  ReplayPage summary;
+  ReplayPage story;
+  ReplayDialogs dialogs;
+
+ private:
+  Desktop desktop_;
+};
+
+}  // namespace duskmarch

@@ -1,0 +1,47 @@
+#include "platform/replay/replayengines.h"
+
+#include <fstream>
+
+#include "values/filelookup.h"
+
+namespace duskmarch {
+
+namespace {
+
+// The first bytes of a regular file; fewer when it is shorter.
+std::string beginning(const std::filesystem::path& file, std::size_t size) {
+  if (!std::filesystem::is_regular_file(file)) throw PlatformError("it is no file");
+  std::filebuf stream;
+  if (stream.open(file, std::ios::in | std::ios::binary) == nullptr) {
+    throw PlatformError("it cannot be opened");
+  }
+  std::string bytes(size, '\0');
+  bytes.resize(
+      static_cast<std::size_t>(stream.sgetn(bytes.data(), static_cast<std::streamsize>(size))));
+  return bytes;
+}
+
+}  // namespace
+
+void ReplaySound::load(int buffer, std::string_view name, const std::filesystem::path& file) {
+  const std::string bytes = beginning(file, 12);
+  if (!bytes.starts_with("RIFF") ||
+      bytes.substr(std::min<std::size_t>(8, bytes.size())) != "WAVE") {
+    throw PlatformError("it is no WAV file: " + std::string(name));
+  }
+  at(buffer) = {.name = tidyname(name), .volume = 0, .pan = 0};
+}
+
+void ReplaySound::play(int buffer, bool loop) {
+  const Buffer& held = at(buffer);
+  if (held.name.empty()) return;
+  transcript_.event("play", buffer, held.volume, held.pan, loop ? 1 : 0, held.name);
+}
+
+ReplayMusic::ReplayMusic(const std::filesystem::path& file) {
+  const std::string bytes = beginning(file, 3);
+  const bool frame = bytes.size() >= 2 && bytes[0] == '\xFF' && (bytes[1] & '\xE0') == '\xE0';
+  if (!frame && bytes != "ID3") throw PlatformError("it is no MP3 file");
+}
+
+}  // namespace duskmarch

@@ -1,0 +1,18 @@
+// Something that adds its own samples to what the sound device plays.
+#pragma once
+
+#include <cstddef>
+
+namespace duskmarch {
+
+class AudioSource {
+ public:
+  virtual ~AudioSource() = default;
+  // Adds `frames` frames of interleaved stereo at mixrate to `samples`. Runs on the audio thread:
+  // it must not wait, allocate or free.
+  virtual void mix(float* samples, std::size_t frames) noexcept = 0;
+};
+
+inline constexpr int mixrate = 48000;
+
+}  // namespace duskmarch

@@ -1,0 +1,31 @@
+#include "platform/sound/mixedsounds.h"
+
+#include <string>
+
+#include "platform/sound/wavfile.h"
+
+namespace duskmarch {
+
+MixedSounds::MixedSounds(std::shared_ptr<Mixer> mixer) : mixer_(std::move(mixer)) {}
+
+void MixedSounds::load(int buffer, std::string_view name, const std::filesystem::path& file) {
+  try {
+    mixer_->load(buffer, std::make_shared<const Clip>(readwav(file)));
+  } catch (const std::exception& error) {
+    throw PlatformError(std::string(name) + ": " + error.what());
+  }
+}
+
+void MixedSounds::setvolume(int buffer, int volume) {
+  mixer_->setvolume(buffer, volume);
+}
+
+void MixedSounds::setpan(int buffer, int pan) {
+  mixer_->setpan(buffer, pan);
+}
+
+void MixedSounds::play(int buffer, bool loop) {
+  mixer_->play(buffer, loop);
+}
+
+}  // namespace duskmarch

@@ -1,0 +1,119 @@
+#include "platform/sound/mixer.h"
+
+#include <algorithm>
+#include <string>
+
+#include "platform/desktop.h"
+
+namespace duskmarch {
+namespace {
+
+// Adds `count` frames; mono is heard on both sides.
+void add(const Clip& clip, std::size_t position, Levels levels, float* samples, std::size_t count) {
+  const float* left = &clip.samples[position * clip.channels];
+  const float* right = left + (clip.channels - 1);
+  for (std::size_t n = 0; n < count; ++n) {
+    samples[2 * n] += *left * levels.left;
+    samples[2 * n + 1] += *right * levels.right;
+    left += clip.channels;
+    right += clip.channels;
+  }
+}
+
+}  // namespace
+
+template <class Change>
+void Mixer::order(int slot, Change change) {
+  if (slot < 0 || slot >= slotcount) {
+    throw PlatformError("there is no sound buffer " + std::to_string(slot));
+  }
+  const std::lock_guard guard(control_);
+  Slot& changed = slots_[static_cast<std::size_t>(slot)];
+  change(changed.wanted);
+  changed.wanted.levels = levels(changed.wanted.volume, changed.wanted.pan);
+  changed.orders.post(changed.wanted);
+}
+
+void Mixer::load(int slot, std::shared_ptr<const Clip> clip) {
+  order(slot, [&](Order& wanted) { wanted = {.clip = std::move(clip), .cue = wanted.cue + 1}; });
+}
+
+void Mixer::setvolume(int slot, int volume) {
+  order(slot, [&](Order& wanted) { wanted.volume = volume; });
+}
+
+void Mixer::setpan(int slot, int pan) {
+  order(slot, [&](Order& wanted) { wanted.pan = pan; });
+}
+
+void Mixer::play(int slot, bool loop) {
+  order(slot, [&](Order& wanted) {
+    wanted.sounding = wanted.clip != nullptr;
+    wanted.loop = loop;
+    ++wanted.cue;
+  });
+}
+
+void Mixer::addsource(std::shared_ptr<AudioSource> source) {
+  const std::lock_guard guard(control_);
+  sources_.push_back(std::move(source));
+  sourcelists_.post(sources_);
+}
+
+void Mixer::removesource(const AudioSource& source) {
+  const std::lock_guard guard(control_);
+  std::erase_if(sources_, [&](const auto& kept) { return kept.get() == &source; });
+  sourcelists_.post(sources_);
+}
+
+void Mixer::tidy() {
+  const std::lock_guard guard(control_);
+  for (Slot& slot : slots_) slot.orders.tidy();
+  sourcelists_.tidy();
+}
+
+void Mixer::render(float* samples, std::size_t frames) noexcept {
+  std::fill_n(samples, 2 * frames, 0.0F);
+  for (Slot& slot : slots_) slot.mix(samples, frames);
+  if (const Sources* sources = sourcelists_.read()) {
+    for (const auto& source : *sources) source->mix(samples, frames);
+  }
+  for (std::size_t n = 0; n < 2 * frames; ++n) samples[n] = std::clamp(samples[n], -1.0F, 1.0F);
+}
+
+void Mixer::skip(std::size_t frames) noexcept {
+  for (Slot& slot : slots_) slot.skip(frames);
+}
+
+const Mixer::Order* Mixer::Slot::heard() noexcept {
+  const Order* order = orders.read();
+  if (order == nullptr) return nullptr;
+  if (order->cue != cue) {
+    cue = order->cue;
+    position = 0;
+    playing = order->sounding;
+  }
+  return playing ? order : nullptr;
+}
+
+void Mixer::Slot::mix(float* samples, std::size_t frames) noexcept {
+  const Order* order = heard();
+  while (order != nullptr && playing && frames > 0) {
+    const std::size_t count = std::min(frames, order->clip->frames() - position);
+    add(*order->clip, position, order->levels, samples, count);
+    skip(count);
+    samples += 2 * count;
+    frames -= count;
+  }
+}
+
+void Mixer::Slot::skip(std::size_t frames) noexcept {
+  const Order* order = heard();
+  if (order == nullptr) return;
+  position += frames;
+  if (position < order->clip->frames()) return;
+  position %= order->clip->frames();
+  playing = order->loop;
+}
+
+}  // namespace duskmarch

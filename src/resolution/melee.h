@@ -1,0 +1,29 @@
+// Hand-to-hand fighting. Nothing here involves chance.
+#pragma once
+
+#include <string>
+
+#include "game.h"
+#include "values/hundredths.h"
+
+namespace duskmarch {
+
+struct FightValues {
+  Hundredths attacker;
+  Hundredths defender;
+};
+
+// The effective fighting values of mob `z` and of its target, which must be a conscious mob.
+FightValues calcfight(const Game& game, int z);
+
+// Recomputes whether a mob is held in a fight: some conscious, unhindered opponent with fighting
+// points left on its tile has planned to fight.
+void engagedcheck(Game& game, int slot);
+
+// One exchange of blows between mob `x` and its target at the end of turn; returns its report.
+std::string meleeexchange(Game& game, int x);
+
+// Everyone who rested regains a fighting point, each told in a line of its own.
+void regainfightingpoints(Game& game);
+
+}  // namespace duskmarch

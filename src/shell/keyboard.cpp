@@ -1,0 +1,203 @@
+#include "shell/keyboard.h"
+
+#include <algorithm>
+#include <array>
+#include <cassert>
+#include <string>
+
+#include "audio/sounds.h"
+#include "campaign/menus.h"
+#include "campaign/savegame.h"
+#include "heroturn/optionlist.h"
+#include "invariants.h"
+#include "missions/missions.h"
+#include "resolution/endturn.h"
+#include "resolution/intent.h"
+#include "shell/keycodes.h"
+#include "shell/keyqueue.h"
+#include "shell/nexthero.h"
+#include "shell/pages.h"
+#include "shell/speech.h"
+#include "world/drawnmap.h"
+#include "world/mapspeech.h"
+#include "world/tables.h"
+
+namespace duskmarch {
+
+namespace {
+
+constexpr std::array reviewkeys = {key::leftbracket, key::comma, key::rightbracket, key::period};
+constexpr std::array menukeys = {
+    key::left,        key::up, key::right, key::down,   key::minus, key::equals,   key::keypadplus,
+    key::keypadminus, key::r,  key::del,   key::escape, key::enter, key::backspace};
+
+template <std::size_t size>
+bool isone(const std::array<int, size>& keys, int keycode) {
+  return std::ranges::find(keys, keycode) != keys.end();
+}
+
+std::string selectedat(const Game& game) {
+  const Mob& hero = game.mob(game.selected);
+  return hero.mobname + " selected at location " + saycoords(hero.mobx) + " " +
+         std::to_string(int{hero.moby}) + ".";
+}
+
+// The option list takes the keys, before its first entry.
+void enteroptions(Game& game) {
+  sayit(game, selectedat(game));
+  listoptions(game, 0);
+  game.menuname = screen::options;
+  game.menupos = 0;
+}
+
+void togglecursormode(Game& game) {
+  if (game.cursormode == 0) {
+    game.cursormode = 1;
+    game.menuname = screen::map;
+    return saytile(game, game.cursorx, game.cursory);
+  }
+  game.cursormode = 0;
+  game.cursorx = game.mob(game.selected).mobx;
+  game.cursory = game.mob(game.selected).moby;
+  enteroptions(game);
+}
+
+// Moves the map cursor by an arrow key; false at the edge of the map and for other keys.
+bool movecursor(Game& game, int keycode) {
+  switch (keycode) {
+    case key::left:
+      if (game.cursorx <= 1) return false;
+      --game.cursorx;
+      return true;
+    case key::right:
+      if (game.cursorx >= game.mapwidth) return false;
+      ++game.cursorx;
+      return true;
+    case key::up:
+      if (game.cursory <= 1) return false;
+      --game.cursory;
+      return true;
+    case key::down:
+      if (game.cursory >= game.mapheight) return false;
+      ++game.cursory;
+      return true;
+    default: return false;
+  }
+}
+
+void opensummary(Game& game) {
+  showsummary(game);
+  sayit(game, "");
+  focussummary(game);
+  game.desktop.window.processevents();
+}
+
+void selecthero(Game& game, int slot, std::string_view where) {
+  game.selected = slot;
+  sayit(game, game.mob(slot).mobname + std::string(where));
+  listoptions(game, 0);
+  drawscreen(game);
+}
+
+void selectnexthero(Game& game) {
+  const int next = nexthero(game);
+  if (next == 0) return sayit(game, "You only have " + game.mob(game.selected).mobname + ".");
+  if (next < game.selected) return selecthero(game, next, " selected.");
+  const Mob& hero = game.mob(next);
+  if (at(hero, game.cursorx, game.cursory)) {
+    return selecthero(game, next, " selected at this location.");
+  }
+  selecthero(
+      game, next,
+      " selected at location " + saycoords(hero.mobx) + " " + std::to_string(int{hero.moby}) + ".");
+}
+
+void askforendofturn(Game& game, int shift) {
+  if (shift == modifier::none) {
+    sayit(game, "Hold Shift and press E to confirm ending your current turn.");
+  } else if (shift == modifier::shift) {
+    endturn(game);
+  }
+}
+
+// The keys that act on every screen, menus included.
+void commonkey(Game& game, KeyPress press) {
+  switch (press.keycode) {
+    case key::l: return opensummary(game);
+    case key::n: return selectnexthero(game);
+    case key::m: return mobcheck(game);
+    case key::e: return askforendofturn(game, press.shift);
+    case key::z: return rollcallofheroes(game);
+    case key::x: return rollcallofenemies(game);
+    case key::c: return rollcalloffurniture(game);
+    case key::tab: return switchengine(game);
+    case key::pageup: return changerate(game, 1);
+    case key::pagedown: return changerate(game, -1);
+    case key::v: return describeenemy(game);
+    case key::f9:
+      if (game.menuname == screen::mainmenu || game.menuname == screen::hideout) {
+        loadgame(game, "game.sav");
+      }
+      return;
+    default: return;
+  }
+}
+
+void windowkey(Game& game, KeyPress press) {
+  if (isone(reviewkeys, press.keycode)) return reviewhistory(game, press);
+  game.reviewpos = 0;
+  if (press.keycode == key::escape && press.shift == modifier::shift) {
+    game.menuname = screen::mainmenu;
+    game.menupos = 1;
+    game.cursormode = 0;
+    sayit(game, "Main menu");  // and the main menu gets the Escape as well
+  }
+  if (press.keycode == key::ctrl) sayit(game, "");
+  if (press.keycode == key::space &&
+      (game.menuname == screen::map || game.menuname == screen::options)) {
+    return togglecursormode(game);
+  }
+  if (game.menuname != screen::map && isone(menukeys, press.keycode)) return menus(game, press);
+  if (game.cursormode == 1 && movecursor(game, press.keycode)) {
+    saytile(game, game.cursorx, game.cursory);
+    return drawscreen(game);
+  }
+  commonkey(game, press);
+}
+
+void closesummary(Game& game) {
+  hidesummary(game);
+  playeffect(game, "/sounds/Menu/previous.wav");
+  if (!game.missionunderway) return;
+  if (game.cursormode == 1) {
+    saytile(game, game.cursorx, game.cursory);
+  } else {
+    enteroptions(game);
+  }
+  endcheck(game);
+}
+
+void summarylabel_keydown(Game& game, KeyPress press) {
+  if (press.keycode == key::ctrl) sayit(game, "");
+  if (press.keycode == key::enter || press.keycode == key::escape) closesummary(game);
+}
+
+}  // namespace
+
+void handlekey(Game& game, KeyPress press) {
+  switch (game.focus) {
+    case Focus::summarylabel: summarylabel_keydown(game, press); break;
+    case Focus::storylabel: storylabel_keydown(game, press); break;
+    case Focus::window: windowkey(game, press); break;
+  }
+  assert(brokeninvariant(game).empty());
+}
+
+void keypress(Game& game, KeyPress press) {
+  if (game.ended) return;
+  if (game.sendingkeys && isone(readingkeys, press.keycode)) return;
+  if (game.speechmode == 3 && game.jawsapi) game.jawsapi->interrupt();
+  arrive(game, press);
+}
+
+}  // namespace duskmarch

@@ -1,0 +1,15 @@
+// Every key press, whatever it means.
+#pragma once
+
+#include "game.h"
+
+namespace duskmarch {
+
+// Called by the front end for each key press in the window and in its pages. The key goes to the
+// page that has the focus, else to the window. A key that arrives while another one's handler is
+// at work waits until that handler is done; hold() alone lets keys through.
+void keypress(Game& game, KeyPress key);
+// What a key does when its turn has come.
+void handlekey(Game& game, KeyPress key);
+
+}  // namespace duskmarch

@@ -1,0 +1,26 @@
+// The two text pages and the dialogs, as every rule uses them: the desktop shows them, the keyboard
+// knows where the focus is, and a player without a screen reader hears them.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "game.h"
+
+namespace duskmarch {
+
+void showsummary(Game& game);
+void focussummary(Game& game);
+void hidesummary(Game& game);
+
+void showstory(Game& game);
+// Also reads the whole page to a player without a screen reader.
+void focusstory(Game& game);
+void hidestory(Game& game);
+
+// What the player typed; empty when the box was cancelled. `spoken` says that the prompt has just
+// been spoken.
+std::string inputbox(Game& game, std::string_view title, std::string_view prompt, bool spoken);
+void messagebox(Game& game, std::string_view title, std::string_view text);
+
+}  // namespace duskmarch

@@ -1,0 +1,15 @@
+// progress.ini: the speech settings, kept from run to run.
+#pragma once
+
+#include "game.h"
+
+namespace duskmarch {
+
+// Rewrites the file from `speechmode`, `sapirate` and `progressspare`. The player is told of the
+// first time that it cannot be written.
+void saveprogress(Game& game);
+// Takes over what the file holds, and gives the voice its rate; what is missing or makes no sense
+// keeps its start value.
+void readprogress(Game& game);
+
+}  // namespace duskmarch

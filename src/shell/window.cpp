@@ -1,0 +1,98 @@
+#include "shell/window.h"
+
+#include <string>
+
+#include "audio/sounds.h"
+#include "heroturn/optionlist.h"
+#include "heroturn/options.h"
+#include "resolution/endturn.h"
+#include "shell/keyboard.h"
+#include "shell/nexthero.h"
+#include "shell/pages.h"
+#include "shell/progress.h"
+#include "shell/speech.h"
+#include "world/chance.h"
+#include "world/drawnmap.h"
+#include "world/tables.h"
+
+namespace duskmarch {
+
+namespace {
+
+void startspeech(Game& game) {
+  setupsapi(game);
+  game.sapirate = 2;
+  giverate(game);
+  loadjaws(game);
+}
+
+bool startsound(Game& game) {
+  game.maxbuffer = soundbuffercount - 1;
+  try {
+    game.dsound = game.desktop.system.opensound();
+  } catch (const PlatformError&) {
+    messagebox(game, "",
+               "Unable to start DirectSound. Check to see that your sound card is properly "
+               "installed.  Try running ostrav.exe from your Klavern folder.  For some people, "
+               "this can correct this issue.");
+    return false;
+  }
+  // Every buffer holds a valid sound from the start.
+  for (int buffer = 0; buffer <= game.maxbuffer; ++buffer) {
+    std::string sound = "\\sounds\\menu\\arrows.wav";
+    setsound(game, buffer, sound);
+  }
+  return true;
+}
+
+void startstate(Game& game) {
+  game.selected = 1;
+  for (int slot = 1; slot <= heroslots; ++slot) emptyheroslot(game.mob(slot));
+  game.mobcount = 0;
+  game.bonus1 = game.bonus2 = game.bonus3 = 1;
+  game.menuname = screen::mainmenu;
+  game.menupos = 0;
+}
+
+}  // namespace
+
+void startup(Game& game) {
+  game.handlekey = handlekey;
+  game.programfolder = game.desktop.system.programfolder();
+  seed(game, game.desktop.system.secondssincemidnight());
+  game.version = "0.1 testing 3";
+  game.reviewpos = 0;
+  game.saidlines.clear();
+  buildtables(game);
+  startspeech(game);
+  if (!startsound(game)) {
+    game.ended = true;
+    return game.desktop.system.end();
+  }
+  readprogress(game);
+  startstate(game);
+  sayit(game, "Welcome to Duskmarch, version " + game.version + ", by Quorvane.  Main menu.");
+}
+
+void repaint(Game& game) {
+  drawscreen(game);
+}
+
+void command1_click(Game& game) {
+  endturn(game);
+}
+
+void command2_click(Game& game) {
+  const auto line = static_cast<std::size_t>(game.menupos) - 1;
+  if (line < game.list2.size()) dooption(game, game.list2[line]);
+}
+
+void command3_click(Game& game) {
+  const int next = nexthero(game);
+  if (next != 0) game.selected = next;
+  game.command3 = game.mob(game.selected).mobname;
+  listoptions(game, 0);
+  drawscreen(game);
+}
+
+}  // namespace duskmarch

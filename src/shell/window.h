@@ -1,0 +1,19 @@
+// The main window: start-up, repaint and the clicks of its hidden buttons.
+#pragma once
+
+#include "game.h"
+
+namespace duskmarch {
+
+// From launch to the spoken main menu; called once, before the window is first shown. Without a
+// sound device it shows a message and ends the program.
+void startup(Game& game);
+// The surface must be redrawn.
+void repaint(Game& game);
+
+// End the turn; perform the option at the menu position; select the next living hero.
+void command1_click(Game& game);
+void command2_click(Game& game);
+void command3_click(Game& game);
+
+}  // namespace duskmarch

@@ -1,0 +1,18 @@
+// Files under the program folder, found whatever the letter case and the separators of their name.
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace duskmarch {
+
+// The existing file or folder that `name` means under `folder`: "\sounds\Menu\SAPI.wav" finds
+// "sounds/menu/SAPI.wav". A name that matches exactly wins.
+std::optional<std::filesystem::path> findfile(const std::filesystem::path& folder,
+                                              std::string_view name);
+// `name` without leading separators and with "/" between its parts, letters as they are.
+std::string tidyname(std::string_view name);
+
+}  // namespace duskmarch

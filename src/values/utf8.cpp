@@ -1,0 +1,88 @@
+#include "values/utf8.h"
+
+#include <cwchar>
+#include <locale>
+#include <stdexcept>
+
+namespace duskmarch {
+namespace {
+
+unsigned byteat(std::string_view text, std::size_t at) {
+  return static_cast<unsigned char>(text[at]);
+}
+
+struct CodePoint {
+  char32_t value = 0;
+  std::size_t size = 1;
+};
+
+// Stray bytes come back as values beyond every code point, so that they equal only themselves.
+CodePoint codepointat(std::string_view text, std::size_t at) {
+  const unsigned lead = byteat(text, at);
+  if (lead < 0x80) return {lead, 1};
+  const CodePoint stray = {0x110000 + lead, 1};
+  const std::size_t size = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
+  if (lead < 0xC2 || lead > 0xF4 || size > text.size() - at) return stray;
+  char32_t value = lead & (0x7Fu >> size);
+  for (std::size_t n = 1; n < size; ++n) {
+    const unsigned next = byteat(text, at + n);
+    if (next >> 6 != 2) return stray;
+    value = value << 6 | (next & 0x3Fu);
+  }
+  const bool toolong = size == 3 ? value < 0x800 : size == 4 && value < 0x10000;
+  const bool surrogate = value >= 0xD800 && value <= 0xDFFF;
+  if (toolong || surrogate || value > 0x10FFFF) return stray;
+  return {value, size};
+}
+
+// A locale of our own: the global one belongs to the toolkits.
+std::locale unicodelocale() {
+  try {
+    return std::locale("C.UTF-8");
+  } catch (const std::runtime_error&) {
+    return std::locale::classic();
+  }
+}
+
+// Up and down again, because several small letters share one capital (both small sigmas).
+char32_t foldcase(char32_t letter) {
+  static const std::locale locale = unicodelocale();
+  static const auto& letters = std::use_facet<std::ctype<wchar_t>>(locale);
+  if (letter > 0x10FFFF || letter > static_cast<char32_t>(WCHAR_MAX)) return letter;
+  return static_cast<char32_t>(letters.tolower(letters.toupper(static_cast<wchar_t>(letter))));
+}
+
+}  // namespace
+
+std::size_t codepointsize(std::string_view text, std::size_t at) {
+  return codepointat(text, at).size;
+}
+
+std::size_t codepoints(std::string_view text) {
+  std::size_t count = 0;
+  for (std::size_t at = 0; at < text.size(); at += codepointsize(text, at)) ++count;
+  return count;
+}
+
+std::string_view codepointrange(std::string_view text, std::size_t first, std::size_t count) {
+  std::size_t begin = 0;
+  for (; first > 0 && begin < text.size(); --first) begin += codepointsize(text, begin);
+  std::size_t end = begin;
+  for (; count > 0 && end < text.size(); --count) end += codepointsize(text, end);
+  return text.substr(begin, end - begin);
+}
+
+bool equalignoringcase(std::string_view one, std::string_view other) {
+  std::size_t inone = 0;
+  std::size_t inother = 0;
+  while (inone < one.size() && inother < other.size()) {
+    const CodePoint a = codepointat(one, inone);
+    const CodePoint b = codepointat(other, inother);
+    if (foldcase(a.value) != foldcase(b.value)) return false;
+    inone += a.size;
+    inother += b.size;
+  }
+  return inone == one.size() && inother == other.size();
+}
+
+}  // namespace duskmarch

@@ -1,0 +1,19 @@
+// UTF-8 texts by code points.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace duskmarch {
+
+// The number of code points; a byte that belongs to none counts as one.
+std::size_t codepoints(std::string_view text);
+// Bytes of the code point that starts at `text[at]`; at least 1.
+std::size_t codepointsize(std::string_view text, std::size_t at);
+// `count` code points from code point `first` (from 0), fewer at the end of the text.
+std::string_view codepointrange(std::string_view text, std::size_t first, std::size_t count);
+// Whether two names are the same but for letter case, in any script the C library knows.
+bool equalignoringcase(std::string_view one, std::string_view other);
+
+}  // namespace duskmarch

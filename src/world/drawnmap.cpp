@@ -1,0 +1,128 @@
+#include "world/drawnmap.h"
+
+#include <array>
+#include <string>
+#include <string_view>
+
+#include "world/mapspeech.h"
+#include "world/tables.h"
+
+namespace duskmarch {
+
+namespace {
+
+constexpr Colour black{0, 0, 0};
+constexpr Colour white{255, 255, 255};
+constexpr Colour magenta{255, 0, 255};
+constexpr Colour green{0, 255, 0};
+constexpr Colour yellow{255, 255, 0};
+constexpr Colour red{255, 0, 0};
+
+constexpr int mapstop = 101;  // below the spoken line
+constexpr int tilesize = 100;
+constexpr int mobrow = 22;
+constexpr int itemrow = 14;
+
+struct Point {
+  int x = 0;
+  int y = 0;
+};
+
+Point corneroftile(int x, int y) {
+  return {50 + (x - 1) * tilesize, 150 + (y - 1) * tilesize};
+}
+
+void write(Canvas& canvas, Point place, std::string_view text, Colour colour = white) {
+  canvas.text(place.x, place.y, "MS Sans Serif", 8, colour, text);
+}
+
+void outline(Canvas& canvas, Point corner, int inset, Colour colour = white) {
+  canvas.outline({corner.x + inset, corner.y + inset, corner.x + tilesize - inset,
+                  corner.y + tilesize - inset},
+                 colour);
+}
+
+void drawtile(Canvas& canvas, const Game& game, int x, int y) {
+  const Point corner = corneroftile(x, y);
+  if (x == 1) write(canvas, {corner.x - 15, corner.y + 50}, std::to_string(y));
+  if (y == 1) write(canvas, {corner.x + 50, corner.y - 15}, saycoords(x));
+  outline(canvas, corner, 0);
+  if (const std::string& tags = tiletags(game, x, y); !tags.empty()) {
+    outline(canvas, corner, 2);
+    outline(canvas, corner, 4);
+    write(canvas, {corner.x + 40, corner.y + 87}, tags);
+  }
+  if (x == game.cursorx && y == game.cursory) outline(canvas, corner, 3, magenta);
+}
+
+void drawgrid(Canvas& canvas, const Game& game) {
+  for (int x = 1; x <= game.mapwidth; ++x) {
+    for (int y = 1; y <= game.mapheight; ++y) drawtile(canvas, game, x, y);
+  }
+}
+
+Colour colouroftype(int mobtype) {
+  static constexpr std::array<Colour, 5> colours{{
+      white,
+      {100, 255, 100},
+      {200, 100, 100},
+      {255, 180, 130},
+      {255, 100, 180},
+  }};
+  return mobtype >= mobtype::hero && mobtype <= mobtype::gifted
+             ? colours[static_cast<std::size_t>(mobtype)]
+             : white;
+}
+
+Colour colourofside(const Game& game, int slot) {
+  const int side = game.mob(slot).aliance;
+  if (side == aliance::enemies) return red;
+  if (side != aliance::heroes) return white;
+  return slot == game.selected ? yellow : green;
+}
+
+std::string modifier(Hundredths amount) {
+  if (amount == Hundredths{}) return "";
+  return amount > Hundredths{} ? "+" + amount.text() : amount.text();
+}
+
+void drawmob(Canvas& canvas, const Game& game, int slot) {
+  const Mob& mob = game.mob(slot);
+  const auto row = menhere(game, slot, mob.mobx, mob.moby, -1, "").truncated();
+  Point place = corneroftile(mob.mobx, mob.moby);
+  place = {place.x + 5, place.y + 5 + (static_cast<int>(row) - 1) * mobrow};
+  const Colour colour = colouroftype(mob.mobtype);
+  write(canvas, place,
+        mob.mobname + " (" + std::to_string(mob.health) + (mob.engaged == 1 ? ") *E*" : ")") +
+            mob.status,
+        colour);
+  write(canvas, {place.x + 10, place.y + 10},
+        "F=" + std::to_string(mob.fight) + modifier(calcfight2(game, slot)) + " A=" + mob.action,
+        colour);
+  write(canvas, place, mob.mobname, colourofside(game, slot));
+}
+
+void drawitem(Canvas& canvas, const Game& game, int slot) {
+  const Item& item = game.item(slot);
+  const int row = itemshere(game, slot, item.itemx, item.itemy);
+  const Point corner = corneroftile(item.itemx, item.itemy);
+  write(canvas, {corner.x + 5, corner.y + 55 + (row - 1) * itemrow}, "[" + item.itemname + "]");
+}
+
+}  // namespace
+
+void drawscreen(Game& game) {
+  Canvas* canvas = game.desktop.window.canvas();
+  if (canvas == nullptr || game.mapwidth == 0) return;
+  canvas->fill({0, mapstop, canvas->width(), canvas->height()}, black);
+  if (game.menuname != screen::map && game.menuname != screen::options) return;
+  drawgrid(*canvas, game);
+  for (int slot = 1; slot <= game.mobcount; ++slot) {
+    if (conscious(game.mob(slot))) drawmob(*canvas, game, slot);
+  }
+  for (int slot = 1; slot <= game.itemcount; ++slot) {
+    if (onthemap(game.item(slot))) drawitem(*canvas, game, slot);
+  }
+}
+
+}  // namespace duskmarch
