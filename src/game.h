@@ -10,7 +10,9 @@
 #include <string_view>
 #include <vector>
 
+#include "audio/musicstate.h"
 #include "platform/desktop.h"
+#include "values/crashtrace.h"
 #include "values/number.h"
 #include "values/saidlines.h"
 
@@ -131,7 +133,8 @@ struct Game {
   bool keyhandlerbusy = false;
   void (*handlekey)(Game&, KeyPress) = nullptr;  // what a key does; set at start-up
   bool sendingkeys = false;                      // the synthetic keys of mode 2 are on their way
-  bool ended = false;                            // the program is ending; no key acts any more
+  CrashTrace trace;
+  bool ended = false;             // the program is ending; no key acts any more
   bool writefailuretold = false;  // the player knows that the folder cannot be written to
 
   // Speech.
@@ -153,6 +156,7 @@ struct Game {
   std::array<std::string, soundbuffercount> bufferfile;  // what each buffer holds
   std::array<double, 630> sintable{};
   std::array<double, 630> costable{};
+  Music music;
 
   // Menus and the campaign.
   int menuname = 0;

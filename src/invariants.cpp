@@ -19,7 +19,6 @@ bool wellformedtags(std::string_view tags) {
 }
 
 std::string brokenmob(const Mob& mob) {
-  if (!within(mob.engaged, 0, 1)) return "engaged is neither 0 nor 1";
   if (!within(mob.target, 0, lastslot)) return "the target is no slot";
   if (!within(mob.abilitycount, 0, lastslot)) return "the ability count is out of range";
   if (mob.abilitycount > 0 && mob.abilities.size() <= static_cast<std::size_t>(mob.abilitycount)) {

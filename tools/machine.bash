@@ -44,10 +44,10 @@ missing() {
 
 # Runs apt-get; what it says goes to a log, whose end is shown when it fails.
 aptget() {
-  local log=build/packages.log
+  local log=build/packages.log options=(APT::Status-Fd=1 Dpkg::Use-Pty=0 DPkg::Lock::Timeout=600)
   {
     "${asroot[@]}" env DEBIAN_FRONTEND=noninteractive \
-      apt-get -y -o APT::Status-Fd=1 -o Dpkg::Use-Pty=0 "$@" 2>&1 </dev/null |
+      apt-get -y "${options[@]/#/-o}" "$@" 2>&1 </dev/null |
       tenths fetched '^dlstatus:.*:([0-9]+)(\.[0-9]+)?:' |
       tenths installed '^pmstatus:.*:([0-9]+)(\.[0-9]+)?:' >"$log"
   } 3>&1 || { tail -n 15 "$log" >&2 && return 1; }
@@ -57,7 +57,7 @@ aptget() {
 # Ubuntu it goes by the tools that are there, and names the packages where there are none.
 needpackages() {
   local lacking names
-  if ! command -v apt-get dpkg-query >/dev/null; then
+  if ! command -v apt-get >/dev/null; then
     needtools && return
     wanted "$@" | sed 's/^/  /'
     stop "There is no apt here. Please install what is named above, in your system's own way."

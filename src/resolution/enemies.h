@@ -12,7 +12,10 @@ namespace duskmarch {
 void pickatarget(Game& game, int e);
 // Fills `list3` with what enemy `t` may choose to do.
 void listenemyoptions(Game& game, int t);
-// Performs the entry that enemy `t` chose, and empties its action.
+// Performs the entry that enemy `t` chose, and empties its action. The entry may be that action.
 void doenemyoption(Game& game, int t, const std::string& entry);
+
+// Enemy `x`'s walk and its plan for the coming turn; returns its report.
+std::string walkandplan(Game& game, int x);
 
 }  // namespace duskmarch

@@ -1,8 +1,6 @@
 // What an enemy is about to do, for the player who asks.
 #pragma once
 
-#include <utility>
-
 #include "game.h"
 
 namespace duskmarch {
@@ -12,8 +10,5 @@ void mobcheck(Game& game);
 // Speaks a plain description of the next conscious enemy on the cursor's tile, its action as it is
 // stored.
 void describeenemy(Game& game);
-
-// The column and row that the shooting tag at the end of `action` aims at.
-std::pair<int, int> shootingtarget(const std::string& action);
 
 }  // namespace duskmarch

@@ -12,6 +12,7 @@ void handlewaitingkeys(Game& game) {
   while (!game.waitingkeys.empty() && !game.ended) {
     const KeyPress key = game.waitingkeys.front();
     game.waitingkeys.pop_front();
+    game.trace.key(key.keycode, key.shift);
     game.handlekey(game, key);
   }
   game.keyhandlerbusy = false;

@@ -45,7 +45,9 @@ void hidestory(Game& game) {
 
 std::string inputbox(Game& game, std::string_view title, std::string_view prompt, bool spoken) {
   readaloud(game, spoken ? std::string(title) : std::string(title) + ".  " + std::string(prompt));
-  return game.desktop.dialogs.input(title, prompt);
+  std::string typed = game.desktop.dialogs.input(title, prompt);
+  game.trace.answer(typed);
+  return typed;
 }
 
 void messagebox(Game& game, std::string_view title, std::string_view text) {

@@ -1,8 +1,10 @@
 #include "shell/window.h"
 
 #include <string>
+#include <system_error>
 
 #include "audio/sounds.h"
+#include "debuglog.h"
 #include "heroturn/optionlist.h"
 #include "heroturn/options.h"
 #include "resolution/endturn.h"
@@ -18,6 +20,14 @@
 namespace duskmarch {
 
 namespace {
+
+// The trace itself stays for the player to send.
+void reportearliercrash(const Game& game) {
+  const std::filesystem::path trace = game.programfolder / crashfile;
+  std::error_code ignored;
+  if (!std::filesystem::exists(trace, ignored)) return;
+  logline(game.programfolder, "An earlier run crashed.  Its last keys are in " + trace.string());
+}
 
 void startspeech(Game& game) {
   setupsapi(game);
@@ -59,8 +69,11 @@ void startstate(Game& game) {
 void startup(Game& game) {
   game.handlekey = handlekey;
   game.programfolder = game.desktop.system.programfolder();
-  seed(game, game.desktop.system.secondssincemidnight());
   game.version = "0.1 testing 3";
+  const std::uint32_t clock = game.desktop.system.secondssincemidnight();
+  seed(game, clock);
+  game.trace.begin(game.version, clock);
+  reportearliercrash(game);
   game.reviewpos = 0;
   game.saidlines.clear();
   buildtables(game);

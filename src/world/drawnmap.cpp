@@ -61,7 +61,7 @@ void drawgrid(Canvas& canvas, const Game& game) {
   }
 }
 
-Colour colouroftype(int mobtype) {
+Colour colouroftype(int type) {
   static constexpr std::array<Colour, 5> colours{{
       white,
       {100, 255, 100},
@@ -69,9 +69,8 @@ Colour colouroftype(int mobtype) {
       {255, 180, 130},
       {255, 100, 180},
   }};
-  return mobtype >= mobtype::hero && mobtype <= mobtype::gifted
-             ? colours[static_cast<std::size_t>(mobtype)]
-             : white;
+  return type >= mobtype::hero && type <= mobtype::gifted ? colours[static_cast<std::size_t>(type)]
+                                                          : white;
 }
 
 Colour colourofside(const Game& game, int slot) {

@@ -17,7 +17,7 @@ namespace duskmarch {
 struct Game;
 
 struct ReplayOptions {
-  std::filesystem::path folder;  // the program folder
+  std::filesystem::path folder = {};  // the program folder
   std::uint32_t seed = 1;
   bool voice = true;   // the voice can be created
   bool jaws = false;   // the JAWS interface can be created
@@ -41,7 +41,7 @@ class ReplaySystem final : public System {
   Transcript& transcript_;
 };
 
-class ReplayWindow final : public Window {
+class ReplayWindow : public Window {
  public:
   explicit ReplayWindow(Transcript& transcript) : transcript_(transcript) {}
   void settitle(std::string_view title) override;

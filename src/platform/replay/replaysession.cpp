@@ -9,6 +9,7 @@
 #include "shell/keyboard.h"
 #include "shell/selfreading.h"
 #include "shell/window.h"
+#include "values/escape.h"
 #include "values/textfile.h"
 #include "world/chance.h"
 #include "world/drawnmap.h"

@@ -6,11 +6,6 @@
 
 namespace duskmarch {
 
-// `text` with backslash, tab, carriage return and line feed escaped, and the reverse. A backslash
-// before anything else stands for itself.
-std::string escaped(std::string_view text);
-std::string unescaped(std::string_view text);
-
 class Transcript {
  public:
   // Adds one event; the fields are texts or whole numbers.

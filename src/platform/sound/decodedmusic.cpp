@@ -1,9 +1,10 @@
 #include "platform/sound/decodedmusic.h"
 
-#include <samplerate.h>
-
+#include <algorithm>
 #include <array>
 #include <atomic>
+
+#include <samplerate.h>
 
 #include "platform/sound/soundfile.h"
 
@@ -34,7 +35,7 @@ class DecodedMusic::Stream : public AudioSource {
     while (frames > 0) {
       const std::size_t count = nextblock(std::min(frames, blockframes));
       if (count == 0) return;
-      add(samples, count, heard);
+      addframes(resampled_.data(), decoder_.channels(), heard, samples, count);
       samples += 2 * count;
       frames -= count;
     }
@@ -57,17 +58,9 @@ class DecodedMusic::Stream : public AudioSource {
   }
 
   std::size_t nextblock(std::size_t frames) noexcept {
-    const long count = src_callback_read(resampler_.get(), ratio_, static_cast<long>(frames),
-                                         resampled_.data());
+    const long count =
+        src_callback_read(resampler_.get(), ratio_, static_cast<long>(frames), resampled_.data());
     return static_cast<std::size_t>(std::max(count, 0L));
-  }
-
-  void add(float* samples, std::size_t frames, Levels heard) noexcept {
-    const std::size_t channels = decoder_.channels();
-    for (std::size_t n = 0; n < frames; ++n) {
-      samples[2 * n] += resampled_[n * channels] * heard.left;
-      samples[2 * n + 1] += resampled_[n * channels + channels - 1] * heard.right;
-    }
   }
 
   SoundDecoder decoder_;
@@ -101,7 +94,7 @@ void DecodedMusic::tell() {
 }
 
 void DecodedMusic::setposition(double seconds) {
-  stream_->position = std::max(seconds, 0.0);
+  stream_->position = std::clamp(seconds, 0.0, 1e6);
 }
 
 void DecodedMusic::run() {

@@ -1,8 +1,9 @@
-// How loud a volume and a pan make each side.
+// Stereo levels: how loud a volume and a pan make each side, and mixing at them.
 #pragma once
 
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
 
 namespace duskmarch {
 
@@ -19,6 +20,15 @@ inline float gain(int attenuation) {
 // The side away from `pan` loses |pan| hundredths of a decibel.
 inline Levels levels(int volume, int pan) {
   return {gain(volume - std::max(pan, 0)), gain(volume + std::min(pan, 0))};
+}
+
+// Adds mono or stereo samples to interleaved stereo; mono is heard on both sides.
+inline void addframes(const float* from, std::size_t channels, Levels levels, float* to,
+                      std::size_t frames) {
+  for (std::size_t n = 0; n < frames; ++n) {
+    to[2 * n] += from[n * channels] * levels.left;
+    to[2 * n + 1] += from[n * channels + channels - 1] * levels.right;
+  }
 }
 
 }  // namespace duskmarch

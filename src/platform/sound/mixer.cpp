@@ -6,22 +6,6 @@
 #include "platform/desktop.h"
 
 namespace duskmarch {
-namespace {
-
-// Adds `count` frames; mono is heard on both sides.
-void add(const Clip& clip, std::size_t position, Levels levels, float* samples, std::size_t count) {
-  const float* left = &clip.samples[position * clip.channels];
-  const float* right = left + (clip.channels - 1);
-  for (std::size_t n = 0; n < count; ++n) {
-    samples[2 * n] += *left * levels.left;
-    samples[2 * n + 1] += *right * levels.right;
-    left += clip.channels;
-    right += clip.channels;
-  }
-}
-
-}  // namespace
-
 template <class Change>
 void Mixer::order(int slot, Change change) {
   if (slot < 0 || slot >= slotcount) {
@@ -35,7 +19,12 @@ void Mixer::order(int slot, Change change) {
 }
 
 void Mixer::load(int slot, std::shared_ptr<const Clip> clip) {
-  order(slot, [&](Order& wanted) { wanted = {.clip = std::move(clip), .cue = wanted.cue + 1}; });
+  order(slot, [&](Order& wanted) {
+    const unsigned cue = wanted.cue + 1;
+    wanted = {};
+    wanted.clip = std::move(clip);
+    wanted.cue = cue;
+  });
 }
 
 void Mixer::setvolume(int slot, int volume) {
@@ -100,7 +89,9 @@ void Mixer::Slot::mix(float* samples, std::size_t frames) noexcept {
   const Order* order = heard();
   while (order != nullptr && playing && frames > 0) {
     const std::size_t count = std::min(frames, order->clip->frames() - position);
-    add(*order->clip, position, order->levels, samples, count);
+    const Clip& clip = *order->clip;
+    const float* from = &clip.samples[position * clip.channels];
+    addframes(from, clip.channels, order->levels, samples, count);
     skip(count);
     samples += 2 * count;
     frames -= count;

@@ -27,7 +27,8 @@ class Mixer {
  public:
   static constexpr int slotcount = 50;
 
-  // `clip`, which must not be empty, replaces what the slot holds: stopped, at full volume, centred.
+  // `clip`, which must not be empty, replaces what the slot holds: stopped, at full volume,
+  // centred.
   void load(int slot, std::shared_ptr<const Clip> clip);
   // Hundredths of a decibel; a pan attenuates the side away from it.
   void setvolume(int slot, int volume);

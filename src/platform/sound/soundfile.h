@@ -1,13 +1,13 @@
 // Sound files held in memory and decoded from there.
 #pragma once
 
-#include <sndfile.h>
-
 #include <cstddef>
 #include <filesystem>
 #include <memory>
 #include <span>
 #include <vector>
+
+#include <sndfile.h>
 
 namespace duskmarch {
 

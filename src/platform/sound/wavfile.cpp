@@ -1,11 +1,11 @@
 #include "platform/sound/wavfile.h"
 
-#include <samplerate.h>
-
 #include <algorithm>
 #include <cmath>
 #include <span>
 #include <string_view>
+
+#include <samplerate.h>
 
 #include "platform/desktop.h"
 #include "platform/sound/soundfile.h"
@@ -21,7 +21,8 @@ bool standsat(std::span<const std::byte> bytes, std::size_t offset, std::string_
 
 std::size_t chunksize(std::span<const std::byte> bytes, std::size_t offset) {
   std::size_t size = 0;
-  for (std::size_t n = 4; n-- > 0;) size = size * 256 + std::to_integer<std::size_t>(bytes[offset + n]);
+  for (std::size_t n = 4; n-- > 0;)
+    size = size * 256 + std::to_integer<std::size_t>(bytes[offset + n]);
   return size;
 }
 
@@ -58,7 +59,8 @@ Clip decode(SoundDecoder& decoder) {
 
 Clip resampled(const Clip& clip, int rate) {
   const double ratio = static_cast<double>(mixrate) / rate;
-  const auto frames = static_cast<std::size_t>(std::ceil(static_cast<double>(clip.frames()) * ratio));
+  const auto frames =
+      static_cast<std::size_t>(std::ceil(static_cast<double>(clip.frames()) * ratio));
   Clip result{.channels = clip.channels, .samples = std::vector<float>(frames * clip.channels)};
   SRC_DATA work{};
   work.data_in = clip.samples.data();

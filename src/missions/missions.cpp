@@ -1,0 +1,189 @@
+#include "missions/missions.h"
+
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "audio/sounds.h"
+#include "campaign/savegame.h"
+#include "heroturn/optionlist.h"
+#include "missions/missionlist.h"
+#include "shell/keycodes.h"
+#include "shell/pages.h"
+#include "shell/speech.h"
+#include "world/narration.h"
+#include "world/tables.h"
+
+namespace duskmarch {
+
+namespace {
+
+// The test mission leaves its first enemy in a hero's slot.
+void expelenemies(Game& game) {
+  for (int slot = 1; slot <= heroslots; ++slot) {
+    if (game.mob(slot).aliance == aliance::enemies) emptyheroslot(game.mob(slot));
+  }
+}
+
+void rememberuses(Mob& mob) {
+  for (int k = 1; k <= mob.abilitycount; ++k) {
+    Ability& ability = mob.abilities[static_cast<std::size_t>(k)];
+    ability.abilityextra = ability.abilityuses;
+  }
+}
+
+void giveusesback(Mob& mob) {
+  for (int k = 1; k <= mob.abilitycount; ++k) {
+    Ability& ability = mob.abilities[static_cast<std::size_t>(k)];
+    ability.abilityuses = ability.abilityextra;
+  }
+}
+
+void bringtogether(Game& game) {
+  game.mobcount = heroslots;
+  for (int slot = 1; slot <= heroslots; ++slot) {
+    Mob& hero = game.mob(slot);
+    hero.health = hero.maxhealth;
+    hero.fight = hero.maxfight;
+    rememberuses(hero);
+  }
+  for (int slot = 1; slot <= lastslot; ++slot) {
+    game.mob(slot).status.clear();
+    game.mob(slot).action.clear();
+  }
+}
+
+void learn(Game& game, int slot, std::span<const AbilityUses> abilities) {
+  game.mob(slot).abilitycount = 0;
+  for (const auto& [ability, uses] : abilities) give(game, slot, ability, uses);
+}
+
+void bring(Game& game, const ReadyHero& ready) {
+  game.mobcount += 1;
+  Mob& hero = game.mob(game.mobcount);
+  hero.mobname = ready.name;
+  hero.gender = ready.gender;
+  hero.aliance = aliance::heroes;
+  hero.mobtype = mobtype::hero;
+  hero.maxhealth = hero.health = ready.health;
+  hero.mobx = hero.startx = ready.x;
+  hero.moby = hero.starty = ready.y;
+  hero.maxreserve = hero.reserve = hero.reserve2 = ready.reserve;
+  hero.maxfight = hero.fight = ready.fight;
+  hero.gun = ready.gun;
+  learn(game, game.mobcount, ready.abilities);
+  rememberuses(hero);
+}
+
+void showpage(Game& game, const Story& page, std::string_view says) {
+  game.storylabel.clear();
+  for (const std::string_view& paragraph : page.paragraphs) {
+    game.storylabel += translate(game, paragraph);
+    const bool last = &paragraph == &page.paragraphs.back();
+    if (!last || page.breakafterlast) game.storylabel += "\r\n\r\n";
+  }
+  showstory(game);
+  sayit(game, says);
+  focusstory(game);
+  game.desktop.window.processevents();
+}
+
+void layout(Game& game, const Mission& mission) {
+  for (const auto& [hero, x, y] : mission.placements) {
+    game.mob(hero).mobx = x;
+    game.mob(hero).moby = y;
+  }
+  game.cursorx = game.mob(1).mobx;
+  game.cursory = game.mob(1).moby;
+  game.mapwidth = mission.mapwidth;
+  game.mapheight = mission.mapheight;
+  game.itemcount = 0;
+  for (const auto& [name, x, y, health] : mission.furniture) newitem(game, name, x, y, health);
+  for (const Enemy& enemy : mission.enemies) {
+    const int slot = newmob(game, enemy.mob);
+    if (!enemy.abilities.empty()) learn(game, slot, enemy.abilities);
+  }
+}
+
+void setup(Game& game, const Mission& mission) {
+  game.objective = mission.objective;
+  // The log puts every later line above this one.
+  game.summarylabel.lines = {
+      sentence({"-Mission ", std::to_string(mission.number), " begins: ", mission.objective})};
+  if (!mission.readyheroes.empty()) game.mobcount = 0;
+  for (const ReadyHero& hero : mission.readyheroes) bring(game, hero);
+  showpage(game, mission.start, "");
+  layout(game, mission);
+}
+
+// Whether somebody of a side still stands, or is yet to arrive.
+bool remains(const Game& game, int side) {
+  for (int slot = 1; slot <= game.mobcount; ++slot) {
+    const Mob& mob = game.mob(slot);
+    if (mob.aliance == side && (conscious(mob) || mob.spawntime > game.turnnumber)) return true;
+  }
+  return false;
+}
+
+// From here on closing the summary once more decides nothing.
+void announce(Game& game, std::string_view title, std::string_view text) {
+  game.missionunderway = false;
+  sayit(game, "");
+  messagebox(game, title, text);
+}
+
+void finish(Game& game, const Ending& ending) {
+  showpage(game, ending.page, ending.says);
+  if (ending.bonuspoints != 0) game.mob(1).earnedpoints += ending.bonuspoints;
+  if (ending.saves) savegame(game, "game.sav");
+}
+
+void win(Game& game) {
+  announce(game, "Victory", "Mission complete!");
+  for (int slot = 1; slot <= game.mobcount; ++slot) {
+    Mob& mob = game.mob(slot);
+    // Earned points are paid out again at every victory.
+    if (mob.aliance == aliance::heroes) mob.upgradepoints += mob.earnedpoints;
+    giveusesback(mob);
+  }
+  game.cursormode = 0;
+  game.menuname = screen::hideout;
+  game.menupos = 0;
+  const Mission* const mission = findmission(game.missionnumber);
+  if (mission != nullptr && mission->ending) finish(game, *mission->ending);
+}
+
+void lose(Game& game) {
+  announce(game, "Defeat", "Mission failed!");
+  game.menuname = screen::mainmenu;
+  game.menupos = 0;
+}
+
+}  // namespace
+
+void startusout(Game& game) {
+  game.missionunderway = true;
+  game.cursormode = 1;
+  game.turnnumber = 0;
+  expelenemies(game);
+  bringtogether(game);
+  if (const Mission* const mission = findmission(game.missionnumber); mission != nullptr) {
+    setup(game, *mission);
+  }
+  listoptions(game, 0);
+}
+
+void endcheck(Game& game) {
+  if (!remains(game, aliance::enemies)) return win(game);
+  if (!remains(game, aliance::heroes)) lose(game);
+}
+
+void storylabel_keydown(Game& game, KeyPress key) {
+  if (key.keycode == key::ctrl) sayit(game, "");
+  if (key.keycode != key::escape) return;
+  hidestory(game);
+  playeffect(game, "/sounds/Menu/previous.wav");
+  if (game.menuname == screen::hideout) sayit(game, "Back at the hideout.");
+}
+
+}  // namespace duskmarch

@@ -1,0 +1,37 @@
+// The program's folder, its clock, and the engines that it can start.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string_view>
+
+#include "platform/desktop.h"
+#include "platform/qt/window.h"
+#include "platform/sound/soundoutput.h"
+#include "platform/voice/engines.h"
+
+namespace duskmarch {
+
+class QtSystem : public System {
+ public:
+  explicit QtSystem(QtWindow& window);
+
+  std::filesystem::path programfolder() const override;
+  std::uint32_t secondssincemidnight() const override;
+  std::unique_ptr<Voice> createvoice() override;
+  std::unique_ptr<JawsApi> createjaws() override;
+  std::unique_ptr<SoundDevice> opensound() override;
+  std::unique_ptr<MusicGraph> createmusic(const std::filesystem::path& file) override;
+  bool readerattached() const override { return window_.readerattached(); }
+  void end() override { window_.end(); }
+
+ private:
+  // Writes lines to the log, each after `prefix`, from whatever thread.
+  std::function<void(std::string_view)> log(std::string prefix = {});
+
+  QtWindow& window_;
+  SoundOutput output_;
+  std::shared_ptr<SpeechStream> voicestream_ = std::make_shared<SpeechStream>();
+};
+
+}  // namespace duskmarch

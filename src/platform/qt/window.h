@@ -1,0 +1,60 @@
+// The one window: the drawing for onlookers, and the keys of the player.
+#pragma once
+
+#include <QDialog>
+#include <QMainWindow>
+#include <vector>
+
+#include "game.h"
+#include "platform/desktop.h"
+#include "platform/qt/canvas.h"
+#include "platform/qt/screenreader.h"
+
+namespace duskmarch {
+
+class QtWindow : public QMainWindow, public Window {
+ public:
+  QtWindow();
+
+  // The game that the window serves; keys and repaints before this call reach nobody.
+  void attach(Game& game) { game_ = &game; }
+  Game* game() { return game_; }
+  bool readerattached() const { return reader_.attached(); }
+  // Ends the program once the handler at work has returned; no key acts any more.
+  void end();
+
+  // `page` covers the window's inner area from now on, whatever its size.
+  void cover(QWidget& page);
+  // What lay under a page or a box shows again.
+  void uncovered();
+  // A key pressed in the window or in one of its pages. False if it went to the box that is open.
+  bool takekey(QKeyEvent& event);
+  // Shows the box, which takes all the keys, until it is closed.
+  void runmodal(QDialog& box);
+
+  void settitle(std::string_view title) override;
+  Canvas* canvas() override;
+  void processevents() override;
+  void wait(std::chrono::milliseconds duration) override;
+  void sendkey(int keycode, bool down) override;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override { takekey(*event); }
+  bool focusNextPrevChild(bool) override { return false; }  // Tab is a key like any other
+  void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void changeEvent(QEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  void placepages();
+
+  Game* game_ = nullptr;
+  QtCanvas canvas_;
+  ScreenReader reader_;
+  std::vector<QWidget*> pages_;
+  QDialog* box_ = nullptr;
+  bool stale_ = true;  // the game must draw again before the surface is shown
+};
+
+}  // namespace duskmarch

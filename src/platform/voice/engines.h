@@ -1,0 +1,27 @@
+// The two speech engines of the desktop, for the front end to create.
+//
+// The front end makes one SpeechStream and adds it to its mixer as a source; whatever voice speaks
+// into it is heard from there. The speech service sounds by itself and needs no mixer.
+#pragma once
+
+#include <memory>
+
+#include "platform/desktop.h"
+#include "platform/voice/speechlog.h"
+#include "platform/voice/speechstream.h"
+
+namespace duskmarch {
+
+// The game's own voice (eSpeak NG), synthesized in the process and heard through `stream`, which
+// must not be null. Takes a millisecond or two, whatever the sound server does. Sets the letter
+// types (LC_CTYPE) of the process to UTF-8. Throws PlatformError when the voice or its language
+// data is missing. Voices may follow each other or overlap, as they share the synthesizer.
+std::unique_ptr<Voice> createespeakvoice(std::shared_ptr<SpeechStream> stream, SpeechLog log);
+
+// The system's speech service (Speech Dispatcher), with the player's own voice, rate and volume.
+// Returns at once: the connection is made, and the service started if need be, when the first text
+// comes. Has the process ignore SIGPIPE, unless it handles it. Throws PlatformError when the
+// service neither listens nor is installed.
+std::unique_ptr<JawsApi> createspeechservice(SpeechLog log);
+
+}  // namespace duskmarch

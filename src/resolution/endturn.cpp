@@ -1,0 +1,195 @@
+#include "resolution/endturn.h"
+
+#include <string>
+
+#include "heroturn/messagelog.h"
+#include "heroturn/optionlist.h"
+#include "resolution/enemies.h"
+#include "resolution/gunfire.h"
+#include "resolution/melee.h"
+#include "resolution/smoke.h"
+#include "resolution/tags.h"
+#include "shell/pages.h"
+#include "shell/speech.h"
+#include "world/drawnmap.h"
+#include "world/mapspeech.h"
+#include "world/narration.h"
+#include "world/tables.h"
+
+namespace duskmarch {
+
+namespace {
+
+void logreport(Game& game, const std::string& report) {
+  if (!report.empty()) list1additem(game, report);
+}
+
+void opening(Game& game) {
+  game.turnsummary.clear();
+  game.list1.clear();
+  game.turnnumber += 1;
+  for (int x = game.mobcount; x >= 1; --x) {
+    if (conscious(game.mob(x)) && game.mob(x).aliance == aliance::heroes) game.selected = x;
+  }
+  list1additem(game, "-End of turn number " + std::to_string(game.turnnumber) + ".");
+}
+
+void keeptargets(Game& game) {
+  for (int x = 1; x <= game.mobcount; ++x) {
+    Mob& mob = game.mob(x);
+    mob.rested = 1;
+    if (!conscious(mob) || mob.aliance != aliance::enemies) continue;
+    if (!conscious(game.mob(mob.target))) mob.target = 0;
+    if (mob.target == 0) pickatarget(game, x);
+  }
+}
+
+void performchosenoptions(Game& game) {
+  for (int x = 1; x <= game.mobcount; ++x) {
+    const Mob& mob = game.mob(x);
+    if (!conscious(mob) || mob.mobtype != mobtype::gifted || !mob.status.empty()) continue;
+    doenemyoption(game, x, mob.action);
+  }
+}
+
+bool canaim(const Game& game, const Mob& gunman) {
+  return gunman.target != 0 && !insmoke(game, game.mob(gunman.target));
+}
+
+bool canfight(const Game& game, const Mob& mob) {
+  const Mob& foe = game.mob(mob.target);
+  return conscious(foe) && sametile(foe, mob) && foe.aliance != mob.aliance;
+}
+
+// Carries out what mob `x` planned; returns its report.
+std::string resolve(Game& game, int x) {
+  Mob& mob = game.mob(x);
+  std::string report;
+  if (!conscious(mob) || !mob.status.empty()) return report;
+  while (true) {
+    if (hastag(mob.action, tag::shootopening)) return volley(game, mob);
+    if (hastag(mob.action, tag::loaded)) {
+      if (!canaim(game, mob)) return report;
+      report = aim(game, mob);
+    }
+    if (hastag(mob.action, tag::reload)) report = load(game, mob);
+    if (!hastag(mob.action, tag::fight)) return report;
+    if (canfight(game, mob)) return meleeexchange(game, x);
+    // The fight is off. What else is planned gets its turn now, even the gun aimed just above.
+    removeeverytag(mob.action, tag::fight);
+    mob.target = 0;
+  }
+}
+
+void resolveplans(Game& game) {
+  for (int x = 1; x <= game.mobcount; ++x) logreport(game, resolve(game, x));
+}
+
+// Takes one turn off a mob's daze; returns what is told of it.
+std::string shakeoffdaze(Mob& mob) {
+  removetag(mob.status, tag::dazed);
+  if (hastag(mob.status, tag::dazed)) return mob.mobname + " lies dazed on the floor.  ";
+  return sentence(
+      {mob.mobname, " shakes off some dizziness and gets to ", hisorher(mob.gender), " feet.  "});
+}
+
+void moveandplan(Game& game) {
+  for (int x = 1; x <= game.mobcount; ++x) {
+    Mob& mob = game.mob(x);
+    if (!conscious(mob)) continue;
+    std::string report;
+    if (mob.aliance == aliance::enemies) report = walkandplan(game, x);
+    if (hastag(mob.status, tag::dazed)) report = shakeoffdaze(mob);
+    logreport(game, report);
+  }
+}
+
+std::string strugglewithnet(Mob& mob) {
+  removetag(mob.status, tag::netted);
+  if (!hastag(mob.status, tag::netted)) {
+    return mob.mobname + " finally gets free of the net and tosses it aside.  ";
+  }
+  return sentence(
+      {mob.mobname, " struggles to free ", himorher(mob.gender), "self from the net.  "});
+}
+
+std::string strugglewithknife(Mob& mob) {
+  removetag(mob.status, tag::pinned);
+  const bool free = !hastag(mob.status, tag::pinned);
+  return sentence({mob.mobname,
+                   free ? " finally yanks out the knife that had "
+                        : " struggles to pull out the knife that has ",
+                   himorher(mob.gender), " pinned.  "});
+}
+
+void struggle(Game& game) {
+  for (int x = 1; x <= game.mobcount; ++x) {
+    Mob& mob = game.mob(x);
+    if (!conscious(mob) || mob.rested != 1) continue;
+    if (hastag(mob.status, tag::netted)) {
+      list1additem(game, strugglewithnet(mob));
+    } else if (hastag(mob.status, tag::pinned)) {
+      list1additem(game, strugglewithknife(mob));
+    }
+  }
+}
+
+// The last free hero on the tile where `mob` arrives; null when there is none.
+const Mob* heroatarrival(const Game& game, const Mob& mob) {
+  for (int y = game.mobcount; y >= 1; --y) {
+    const Mob& hero = game.mob(y);
+    if (hero.mobtype == mobtype::hero && conscious(hero) && sametile(hero, mob) &&
+        hero.engaged == 0) {
+      return &hero;
+    }
+  }
+  return nullptr;
+}
+
+void arrive(Game& game, Mob& mob) {
+  mob.health = mob.maxhealth;
+  std::string line = mob.spawntext;
+  replaceeverytag(line, "$N", mob.mobname);
+  line += " Location " + location(mob.mobx, mob.moby);
+  const Mob* hero = mob.mobtype == mobtype::ordinary ? heroatarrival(game, mob) : nullptr;
+  // Told only: the newcomer takes its target at the next end of turn.
+  line += hero == nullptr ? ".  " : sentence({" and engaged ", hero->mobname, " in a fight.  "});
+  list1additem(game, line);
+}
+
+void freshturn(Game& game) {
+  for (int x = 1; x <= game.mobcount; ++x) {
+    Mob& mob = game.mob(x);
+    mob.hasmoved = 0;
+    mob.hasacted = 0;
+    if (mob.spawntime == game.turnnumber) arrive(game, mob);
+    removetag(mob.action, tag::shield);
+    engagedcheck(game, x);
+    if (mob.mobtype == mobtype::gunman && mob.action.empty()) mob.action = tag::reload;
+  }
+}
+
+void closing(Game& game) {
+  sayit(game, game.turnsummary);
+  showsummary(game);
+  focussummary(game);
+  listoptions(game, 0);
+  drawscreen(game);
+}
+
+}  // namespace
+
+void endturn(Game& game) {
+  opening(game);
+  keeptargets(game);
+  performchosenoptions(game);
+  resolveplans(game);
+  regainfightingpoints(game);
+  moveandplan(game);
+  struggle(game);
+  freshturn(game);
+  thinsmoke(game);
+  closing(game);
+}
+
+}  // namespace duskmarch

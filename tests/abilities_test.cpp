@@ -1,0 +1,170 @@
+// Every option of a hero, performed: what it changes, and the line that tells of it.
+#include <fstream>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "ground.h"
+#include "harness.h"
+#include "heroturn/options.h"
+
+namespace duskmarch {
+namespace {
+
+constexpr auto question = "Enter N S E W to choose your direction, or leave blank to cancel.";
+
+// Vesper is in slot 1 and acts, with a full skill of 4, a gun of 5, and one use of the ability.
+void arrangefor(Game& game, const std::string& ground, const std::string& option) {
+  arrange(game, ground);
+  game.mob(1).maxfight = 4;
+  game.mob(1).gun = 5;
+  give(game, 1, option.substr(0, option.find(' ')), 1);
+  if (option.find(' ') != std::string::npos) give(game, 1, option, 1);
+}
+
+struct Case {
+  std::string option;
+  std::string answer;  // to the question for a direction
+  std::string before;
+  std::string log;  // oldest line first
+  std::string after;
+};
+
+void PrintTo(const Case& c, std::ostream* out) {
+  *out << c.option << " " << c.answer << ": " << c.before;
+}
+
+std::vector<Case> readcases() {
+  std::vector<Case> cases;
+  std::ifstream file(TEST_FOLDER "/abilities.txt");
+  for (std::string first, line, after; std::getline(file, first);) {
+    if (first.empty() || first.starts_with('#')) continue;
+    std::getline(file, line);
+    std::getline(file, after);
+    Case c{first.substr(0, first.find(": ")), "", first.substr(first.find(": ") + 2),
+           line == "  -" ? "" : line.substr(2), after.substr(2)};
+    if (const auto bracket = c.option.find(" ("); bracket != std::string::npos) {
+      c.answer = c.option.substr(bracket + 2, 1);
+      c.option.erase(bracket);
+    }
+    cases.push_back(c);
+  }
+  return cases;
+}
+
+class Abilities : public testing::TestWithParam<Case> {};
+
+TEST_P(Abilities, ChangeAndTellWhatTheirRuleSays) {
+  const Case& c = GetParam();
+  Player player;
+  arrangefor(player.game(), c.before, c.option);
+  player.answer(c.answer);
+  const auto spoken = player.spoken([&] { dooption(player.game(), c.option); });
+  std::string log;
+  for (const std::string& line : player.game().list1) log = line + (log.empty() ? "" : " / ") + log;
+  EXPECT_EQ(log, c.log);
+  EXPECT_EQ(described(player.game()), c.after);
+  if (!log.empty()) {
+    EXPECT_EQ(spoken.back(), player.game().list1.front());
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Options, Abilities, testing::ValuesIn(readcases()));
+
+// The question for a direction, and what is refused.
+
+std::string asked(const std::string& answer) {
+  return "input\tChoose direction\t" + std::string(question) + "\t" + answer;
+}
+
+TEST(Direction, IsAskedAloudOnlyByTheGamesOwnVoice) {
+  Player player;
+  arrange(player.game(), "Vesper 2,2 20 4");
+  EXPECT_EQ(player.during([&] { dooption(player.game(), "Move"); }),
+            (Player::Events{"voice\t" + std::string(question), asked(""), "voice\tCanceled."}));
+  player.game().speechmode = 1;
+  EXPECT_EQ(player.during([&] { dooption(player.game(), "Move"); }),
+            (Player::Events{asked(""), "title\tCanceled."}));
+  EXPECT_TRUE(player.game().list2.empty()) << "the common ending does not run";
+}
+
+TEST(Direction, IsOneLetterThatStaysOnTheMap) {
+  const struct {
+    std::string option, answer, ground;
+  } cases[] = {{"Move", " N", "Vesper 2,2 20 4"}, {"Dive", "North", "Vesper 2,2 20 4"},
+               {"Hook", "x", "Vesper 2,2 20 4"},  {"Throw chair", "nn", "Vesper 2,2 20 4"},
+               {"Move", "n", "Vesper 2,1 20 4"},  {"Dive", "s", "Vesper 2,3 20 4"},
+               {"Hook", "e", "Vesper 4,2 20 4"},  {"Move", "w", "Vesper 1,2 20 4"},
+               {"Move", "w", "Vesper 9,2 20 4"},  {"Hook", "n", "Vesper 0,15 20 4"}};
+  for (const auto& [option, answer, ground] : cases) {
+    Player player;
+    arrangefor(player.game(), ground, option);
+    player.answer(answer);
+    EXPECT_EQ(
+        player.during([&] { dooption(player.game(), option); }),
+        (Player::Events{"voice\t" + std::string(question), asked(answer), "message\t\tCanceled"}))
+        << option << " " << answer;
+    EXPECT_EQ(described(player.game()), ground);
+  }
+}
+
+TEST(Direction, LeavesARecordOfWhereTheHeroCameFrom) {
+  Player player;
+  arrange(player.game(), "Vesper 2,3 20 4");
+  player.answer("n");
+  dooption(player.game(), "Move");
+  player.answer("e");
+  dooption(player.game(), "Hook");
+  EXPECT_EQ(player.game().mob(1).startx, 2);
+  EXPECT_EQ(player.game().mob(1).starty, 3);
+}
+
+TEST(Dive, TellsWhatItIsFor) {
+  Player player;
+  arrangefor(player.game(), "Vesper 2,2 20 4", "Dive");
+  player.game().mob(1).hasmoved = 1;
+  player.answer("s");
+  EXPECT_EQ(player.spoken([&] { dooption(player.game(), "Dive"); }).back(),
+            "Vesper dives South, to get more distance.");
+  player.game().mob(1).engaged = 1;
+  player.answer("e");
+  EXPECT_EQ(player.spoken([&] { dooption(player.game(), "Dive"); }).back(),
+            "Vesper dives East, out of a fight.");
+  EXPECT_EQ(player.game().mob(1).engaged, 0) << "nobody holds her there";
+}
+
+TEST(CommonEnding, SettlesWhoIsHeldAndWhatIsLeftToDo) {
+  Player player;
+  arrangefor(player.game(), "Vesper 2,2 20 4 | Tony 2,1 16 3 plans[Fight]", "Kick");
+  player.answer("n");
+  dooption(player.game(), "Move");
+  EXPECT_EQ(player.game().mob(1).engaged, 1);
+  EXPECT_EQ(player.game().list2, std::vector<std::string>{"Target Tony"});
+}
+
+TEST(CommonEnding, SpeaksTheEmptyTextWhenNothingWasLoggedYet) {
+  Player player;
+  arrange(player.game(), "Vesper 2,2 20 4 | Table 2,2 1");
+  EXPECT_EQ(player.during([&] { dooption(player.game(), "Flip table"); }).at(0), "voice\t");
+  EXPECT_EQ(tiletags(player.game(), 2, 2), "[Table]");
+  for (const std::string option : {"No such option", "Kick Nobody", "Move Nowhere"}) {
+    EXPECT_EQ(player.during([&] { dooption(player.game(), option); }).at(0), "voice\t");
+  }
+  EXPECT_TRUE(player.during([&] { dooption(player.game(), "Heal Vesper"); }).empty());
+}
+
+TEST(SmokeBombs, AreThickAroundTheHeroAndThinTwoTilesAway) {
+  Player player;
+  arrange(player.game(), "Vesper 1,1 20 4");
+  dooption(player.game(), "Smoke bombs");
+  EXPECT_EQ(tiletags(player.game(), 1, 1), "[Smoke][Smoke][Smoke][Smoke]");
+  EXPECT_EQ(tiletags(player.game(), 1, 2), "[Smoke][Smoke][Smoke][Smoke]");
+  EXPECT_EQ(tiletags(player.game(), 2, 2), "[Smoke][Smoke]");
+  EXPECT_EQ(tiletags(player.game(), 3, 1), "[Smoke][Smoke]");
+  EXPECT_EQ(tiletags(player.game(), 3, 2), "");
+  EXPECT_EQ(tiletags(player.game(), 1, 0), "") << "off the map";
+}
+
+}  // namespace
+}  // namespace duskmarch

@@ -1,0 +1,152 @@
+"""A private desktop session, and the ears of a screen reader in it.
+
+Nothing here waits for a time, only for what has to happen, with a limit no machine should need.
+"""
+
+import ctypes
+import os
+import pathlib
+import shutil
+import signal
+import subprocess
+import tempfile
+import time
+
+LIMIT = 60
+
+
+def end_with_the_test():
+    ctypes.CDLL(None).prctl(1, signal.SIGTERM)  # PR_SET_PDEATHSIG
+
+
+class Session:
+    """A home, a display, a window manager and a session bus. What it started ends with it."""
+
+    def __enter__(self):
+        self.folder = pathlib.Path(tempfile.mkdtemp(prefix="duskmarch-desktop-"))
+        self.log = open(self.folder / "log", "w+", encoding="utf-8", errors="replace")
+        self.children = []
+        try:
+            self.set_environment()
+            os.environ["DISPLAY"] = ":" + self.answer_of(
+                "Xvfb", "-displayfd", "{}", "-screen", "0", "1400x800x24", "-nolisten", "tcp")
+            os.environ["DBUS_SESSION_BUS_ADDRESS"] = self.answer_of(
+                "dbus-daemon", "--session", "--nofork", "--print-address={}")
+            self.start("openbox", "--sm-disable")
+        except BaseException as error:
+            self.__exit__(type(error), error, None)
+            raise
+        return self
+
+    def __exit__(self, kind, error, trace):
+        for child in reversed(self.children):
+            child.terminate()
+            try:
+                child.wait(LIMIT)
+            except subprocess.TimeoutExpired:
+                child.kill()
+                child.wait()
+        if kind is not None:
+            self.log.seek(0)
+            print("What the programs of the session wrote:", self.log.read(), sep="\n")
+        shutil.rmtree(self.folder, ignore_errors=True)
+
+    def set_environment(self):
+        home, run = self.folder / "home", self.folder / "run"
+        home.mkdir()
+        run.mkdir(mode=0o700)
+        path = os.environ["PATH"]
+        os.environ.clear()
+        os.environ.update(PATH=path, HOME=str(home), XDG_RUNTIME_DIR=str(run), LANG="C.UTF-8",
+                          GSETTINGS_BACKEND="memory", SDL_AUDIODRIVER="dummy")
+
+    def start(self, *command, **options):
+        self.children.append(subprocess.Popen(
+            command, stdin=subprocess.DEVNULL, stdout=self.log, stderr=self.log,
+            preexec_fn=end_with_the_test, **options))
+        return self.children[-1]
+
+    def answer_of(self, *command):
+        """Starts a program that writes a line when it is ready, to the descriptor that {} names."""
+        read, write = os.pipe()
+        self.start(*(word.format(write) for word in command), pass_fds=(write,))
+        os.close(write)
+        with os.fdopen(read) as answer:
+            line = answer.readline().strip()
+        assert line, f"{command[0]} did not start"
+        return line
+
+
+class Reader:
+    """What reaches a screen reader over the accessibility bus; and the player's hands."""
+
+    def __init__(self):
+        import gi  # here, because it looks for the session at once
+        gi.require_version("Atspi", "2.0")
+        from gi.repository import Atspi, GLib
+        self.atspi, self.gone = Atspi, GLib.Error
+        self.events = GLib.MainContext.default()
+        self.heard = []  # the titles announced, in order
+        self.focus = None
+        Atspi.init()
+        self.listener = Atspi.EventListener.new(self.hear)
+        for kind in ("object:property-change:accessible-name", "object:state-changed:focused"):
+            self.listener.register(kind)
+
+    def hear(self, event):
+        if event.type.startswith("object:property-change"):
+            self.heard.append(str(event.any_data).strip())
+        elif event.detail1:
+            self.focus = event.source
+
+    def wait(self, condition, what):
+        limit = time.monotonic() + LIMIT
+        while time.monotonic() < limit:
+            while self.events.iteration(False):
+                pass
+            try:
+                if result := condition():
+                    return result
+            except self.gone:  # what was asked about has just disappeared
+                pass
+            time.sleep(0.02)
+        raise AssertionError(f"in vain: {what}\nheard: {self.heard}\nfocus: {self.described()}")
+
+    def described(self):
+        return self.focus and (self.focus.get_role_name(), self.focus.get_name())
+
+    def press(self, *keys):
+        for key in keys:
+            subprocess.run(["xdotool", "key", key], check=True, timeout=LIMIT)
+
+    def expect(self, text, *keys):
+        """Presses the keys; a title that begins with the text has to be announced for it."""
+        before = len(self.heard)
+        self.press(*keys)
+        self.wait(lambda: any(said.startswith(text) for said in self.heard[before:]), text)
+
+    def expect_focus(self, role, name, *keys):
+        self.press(*keys)
+        self.wait(lambda: self.described() == (role, name), f"focus on {role} {name}")
+
+    def expect_window(self, role, name):
+        """An active window of that role and name."""
+        def windows():
+            desktop = self.atspi.get_desktop(0)
+            for program in map(desktop.get_child_at_index, range(desktop.get_child_count())):
+                yield from map(program.get_child_at_index, range(program.get_child_count()))
+
+        def active():
+            return any(window.get_role_name() == role and window.get_name() == name
+                       and window.get_state_set().contains(self.atspi.StateType.ACTIVE)
+                       for window in windows() if window)
+        self.wait(active, f"an active {role} {name}")
+
+    def text(self):
+        return self.atspi.Text.get_text(self.focus, 0, -1)
+
+    def line(self):
+        """The line of the caret, as it is shown."""
+        caret = self.atspi.Text.get_caret_offset(self.focus)
+        return self.atspi.Text.get_string_at_offset(
+            self.focus, caret, self.atspi.TextGranularity.LINE).content.strip()

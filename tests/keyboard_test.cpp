@@ -1,0 +1,213 @@
+#include "shell/keyboard.h"
+
+#include "harness.h"
+#include "heroturn/optionlist.h"
+#include "shell/hold.h"
+#include "shell/speech.h"
+#include "shell/window.h"
+
+namespace duskmarch {
+namespace {
+
+using Lines = std::vector<std::string>;
+
+// The test mission, its story page closed: the cursor on B 5 with both heroes.
+void startmission(Player& player) {
+  for (const int code : {key::down, key::down, key::enter, key::escape}) player.press(code);
+}
+
+TEST(StartUp, FillsTheBuffersAndWelcomes) {
+  Player player;
+  EXPECT_EQ(player.events(),
+            (Lines{"rate\t2",
+                   "voice\tWelcome to Duskmarch, version 0.1 testing 3, by Quorvane.  "
+                   "Main menu."}));
+  EXPECT_EQ(player.game().bufferfile[49], "\\sounds\\menu\\arrows.wav");
+  EXPECT_FALSE(std::filesystem::exists(player.folder().path / "progress.ini"));
+}
+
+TEST(StartUp, ACrashIsReportedInTheLog) {
+  ProgramFolder folder;
+  folder.write("crash.txt", "seed 1\n");
+  Player player({.folder = folder.path});
+  EXPECT_NE(folder.read("debuglog.txt").find("crash.txt"), std::string::npos);
+}
+
+TEST(Keyboard, ShiftEscapeAlsoReachesTheMainMenu) {
+  Player player;
+  startmission(player);
+  EXPECT_EQ(player.press(key::escape, modifier::shift),
+            (Lines{"voice\tMain menu", "voice\tExit the game"}));
+  EXPECT_EQ(player.game().menupos, 4);
+  EXPECT_EQ(player.game().cursormode, 0);
+}
+
+TEST(Keyboard, TheCursorStopsAtTheEdgeInSilence) {
+  Player player;
+  startmission(player);
+  EXPECT_EQ(player.press(key::down), Lines{});
+  EXPECT_EQ(player.spokenby(key::left), Lines{"A 5, "});
+  EXPECT_EQ(player.press(key::left), Lines{});
+  EXPECT_EQ(player.spokenby(key::up), Lines{"A 4, 1 here.  Henchman Joe.  There is a Table here."});
+}
+
+TEST(Keyboard, SpaceTogglesBetweenMapAndOptions) {
+  Player player;
+  startmission(player);
+  player.press(key::up);
+  EXPECT_EQ(player.spokenby(key::space), Lines{"Nightjar selected at location B 5."});
+  EXPECT_EQ(player.game().menuname, screen::options);
+  EXPECT_EQ(player.game().cursory, 5);
+  EXPECT_EQ(player.spokenby(key::space, modifier::ctrl),
+            Lines{"B 5, 2 here.  Nightjar and Steelwing.  "});
+  EXPECT_EQ(player.game().menuname, screen::map);
+}
+
+TEST(Keyboard, NSelectsTheNextHero) {
+  Player player;
+  startmission(player);
+  EXPECT_EQ(player.spokenby(key::n), Lines{"Steelwing selected at this location."});
+  EXPECT_EQ(player.spokenby(key::n), Lines{"Nightjar selected."});
+  player.press(key::up);
+  EXPECT_EQ(player.spokenby(key::n), Lines{"Steelwing selected at location B 5."});
+  player.game().mob(1).health = 0;
+  EXPECT_EQ(player.spokenby(key::n), Lines{"You only have Steelwing."});
+  command3_click(player.game());
+  EXPECT_EQ(player.game().command3, "Steelwing");
+}
+
+TEST(Keyboard, EndingTheTurnWantsShiftAlone) {
+  Player player;
+  EXPECT_EQ(player.spokenby(key::e),
+            Lines{"Hold Shift and press E to confirm ending your current turn."});
+  EXPECT_EQ(player.press(key::e, modifier::shift | modifier::ctrl), Lines{});
+  EXPECT_EQ(player.press(key::e, modifier::shift).back(), "focus\tsummary");
+}
+
+TEST(Keyboard, TheSummaryTakesTheKeysAndLeadsBackIntoTheMission) {
+  Player player;
+  startmission(player);
+  EXPECT_EQ(player.press(key::l),
+            (Lines{"show\tsummary\t-Mission 0 begins: Invade the mobster meeting at the pool "
+                   "hall.",
+                   "voice\t", "focus\tsummary"}));
+  EXPECT_EQ(player.press(key::n), Lines{});
+  EXPECT_EQ(player.press(key::ctrl), Lines{"voice\t"});
+  EXPECT_EQ(player.press(key::escape),
+            (Lines{"hide\tsummary", "play\t5\t0\t0\t0\tsounds/Menu/previous.wav",
+                   "voice\tB 5, 2 here.  Nightjar and Steelwing.  "}));
+  player.press(key::escape, modifier::shift);
+  player.press(key::l);
+  player.press(key::enter);
+  EXPECT_EQ(player.game().menuname, screen::options);
+}
+
+TEST(Keyboard, ClosingTheSummaryOutsideAMissionOnlyClosesIt) {
+  Player player;
+  EXPECT_EQ(player.press(key::l), (Lines{"show\tsummary\tText1", "voice\t", "focus\tsummary"}));
+  EXPECT_EQ(player.press(key::enter), (Lines{"hide\tsummary",
+                                             "play\t2\t0\t0\t0\tsounds/Menu/"
+                                             "previous.wav"}));
+  EXPECT_EQ(player.game().menuname, screen::mainmenu);
+}
+
+TEST(Keyboard, F9LoadsOnlyInTheMainMenuAndTheHideout) {
+  Player player;
+  EXPECT_EQ(player.spokenby(key::f9, modifier::alt), Lines{"File not found."});
+  player.game().menuname = screen::creation;
+  EXPECT_EQ(player.press(key::f9), Lines{});
+}
+
+// Presses keys while the game lets events through.
+class BusyWindow : public ReplayWindow {
+ public:
+  using ReplayWindow::ReplayWindow;
+  void processevents() override { happen(); }
+  void wait(std::chrono::milliseconds duration) override {
+    ReplayWindow::wait(duration);
+    happen();
+  }
+  std::function<void()> pending;
+
+ private:
+  void happen() {
+    if (auto now = std::exchange(pending, nullptr)) now();
+  }
+};
+
+struct BusyPlayer {
+  ProgramFolder folder;
+  ReplayDesktop replay{{.folder = folder.path}};
+  BusyWindow window{replay.transcript};
+  Desktop desktop{replay.system, window, replay.summary, replay.story, replay.dialogs};
+  Game game{desktop};
+};
+
+TEST(Keyboard, AKeyInsideAnotherKeysHandlerWaitsItsTurn) {
+  BusyPlayer player;
+  startup(player.game);
+  player.replay.transcript.clear();
+  player.window.pending = [&] { keypress(player.game, {.keycode = key::e}); };
+  keypress(player.game, {.keycode = key::down});
+  EXPECT_EQ(player.replay.transcript.text(),
+            "play\t2\t0\t0\t0\tsounds/menu/arrows.wav\nvoice\tStart new game\n"
+            "voice\tHold Shift and press E to confirm ending your current turn.\n");
+}
+
+TEST(Keyboard, HoldLetsKeysThroughAndTheSyntheticKeysAreNobodys) {
+  BusyPlayer player;
+  startup(player.game);
+  player.replay.transcript.clear();
+  player.window.pending = [&] { keypress(player.game, {.keycode = key::down}); };
+  hold(player.game, 0.0005);
+  EXPECT_EQ(player.replay.transcript.text(), "");
+  hold(player.game, 1);
+  EXPECT_EQ(player.replay.transcript.text(),
+            "wait\t1\nplay\t2\t0\t0\t0\tsounds/menu/arrows.wav\nvoice\tStart new game\n");
+  player.game.speechmode = 2;
+  player.replay.transcript.clear();
+  player.window.pending = [&] { keypress(player.game, {.keycode = key::ctrl}); };
+  sayit(player.game, "New");
+  EXPECT_EQ(player.replay.transcript.text().find("title\t\n"), std::string::npos);
+}
+
+TEST(SelfReading, PagesAndBoxesAreReadToAPlayerWithoutAReader) {
+  Player player({.reader = false});
+  for (const int code : {key::down, key::down}) player.press(code);
+  const auto started = player.spokenby(key::enter);
+  ASSERT_EQ(started.size(), 1u);
+  EXPECT_EQ(started[0].substr(0, 41), "Nightjar and Steelwing storm into a pool ");
+  const std::string paragraph = player.game().storylabel.substr(0, 150);
+  EXPECT_EQ(player.spokenby(key::up).at(0).substr(0, 30), paragraph.substr(0, 30));
+  EXPECT_EQ(player.spokenby(key::right), Lines{"i"});
+  EXPECT_EQ(player.press(key::down), Lines{"voice\t"});  // the empty line after the paragraph
+  EXPECT_EQ(player.game().saidlines[1],
+            "Test mission where you control 2 established heroes "
+            "against many foes.");
+  player.press(key::escape);
+  player.press(key::space);
+  player.press(key::down);
+  player.answer("N");
+  EXPECT_EQ(player.spokenby(key::enter),
+            (Lines{"Enter N S E W to choose your direction, or leave blank to cancel.",
+                   "Choose direction", "N", "Nightjar moves to the North."}));
+  Player withreader;
+  for (const int code : {key::down, key::down}) withreader.press(code);
+  EXPECT_EQ(withreader.spokenby(key::enter), Lines{});
+}
+
+TEST(CrashTrace, IsAScriptWithAnswersAheadOfTheirKeys) {
+  CrashTrace trace;
+  trace.begin("0.1", 77);
+  for (int n = 0; n < 300; ++n) trace.key(40, 0);
+  trace.key(13, 1);
+  trace.answer("a\tb");
+  std::string script;
+  trace.writeto([&](const char* data, std::size_t size) { script.append(data, size); });
+  EXPECT_TRUE(script.starts_with("# Duskmarch 0.1: the last keys before a crash\nseed 77\nkey 40"));
+  EXPECT_TRUE(script.ends_with("key 40 0\nanswer a\\tb\nkey 13 1\n"));
+  EXPECT_EQ(std::ranges::count(script, '\n'), 2 + 200);
+}
+
+}  // namespace
+}  // namespace duskmarch

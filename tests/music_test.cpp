@@ -1,0 +1,140 @@
+// The two music players: what is asked of the desktop for them.
+#include "audio/music.h"
+
+#include "harness.h"
+
+namespace duskmarch {
+namespace {
+
+using Calls = std::vector<std::string>;
+
+class NotedGraph : public MusicGraph {
+ public:
+  NotedGraph(Calls& calls, std::string name) : calls_(calls), name_(std::move(name)) {}
+  ~NotedGraph() override { note("end"); }
+  void setvolume(int volume) override { note("volume " + std::to_string(volume)); }
+  void setbalance(int balance) override { note("balance " + std::to_string(balance)); }
+  void setposition(double seconds) override { note("position " + std::to_string(int(seconds))); }
+  void run() override { note("run"); }
+
+ private:
+  void note(const std::string& what) { calls_.push_back(name_ + " " + what); }
+  Calls& calls_;
+  std::string name_;
+};
+
+class MusicSystem : public System {
+ public:
+  explicit MusicSystem(Calls& calls) : calls_(calls) {}
+  std::filesystem::path programfolder() const override { return {}; }
+  std::uint32_t secondssincemidnight() const override { return 0; }
+  std::unique_ptr<Voice> createvoice() override { return nullptr; }
+  std::unique_ptr<JawsApi> createjaws() override { return nullptr; }
+  std::unique_ptr<SoundDevice> opensound() override { return nullptr; }
+  std::unique_ptr<MusicGraph> createmusic(const std::filesystem::path& file) override {
+    if (file.stem() == "bad") throw PlatformError("no music");
+    return std::make_unique<NotedGraph>(calls_, file.stem().string());
+  }
+  bool readerattached() const override { return true; }
+  void end() override {}
+
+ private:
+  Calls& calls_;
+};
+
+class MusicRules : public testing::Test {
+ protected:
+  MusicRules() {
+    game.programfolder = folder.path;
+    for (const char* name : {"one.mp3", "two.MP3", "bad.mp3", "one.wav"}) folder.write(name, "");
+  }
+  template <class Action>
+  Calls during(Action action) {
+    calls.clear();
+    action();
+    return calls;
+  }
+
+  Calls calls;
+  ProgramFolder folder;
+  ReplayDesktop replay{{.folder = folder.path}};
+  MusicSystem system{calls};
+  Desktop desktop{system, replay.window, replay.summary, replay.story, replay.dialogs};
+  Game game{desktop};
+};
+
+TEST_F(MusicRules, LoadingSetsTheGraphUpAndStartsIt) {
+  EXPECT_EQ(
+      during([&] { mp3load(game, 0, "\\ONE.mp3"); }),
+      (Calls{"one volume 0", "one volume -5000", "one balance 0", "one position 0", "one run"}));
+  EXPECT_EQ(game.music.mp3files[0], "\\ONE.mp3");
+  EXPECT_EQ(game.music.mp3volumes[0], 0);
+  game.music.musicvolume = 60;
+  int volume = -1;
+  EXPECT_EQ(during([&] { mp3load(game, 1, "two.MP3", volume); }),
+            (Calls{"two volume 0", "two balance 0", "two position 0", "two run"}));
+  EXPECT_EQ(volume, 60);
+  EXPECT_EQ(game.music.mp3volumes[1], 60);
+}
+
+TEST_F(MusicRules, APercentageBecomesAVolumeWithinTheRange) {
+  struct Case {
+    int percentage;
+    std::string volume;
+  };
+  const Case cases[] = {{100, "0"},   {50, "-2500"}, {1, "-4950"},
+                        {0, "-5000"}, {101, "0"},    {-2, "-5000"}};
+  for (const Case& c : cases) {
+    const Calls asked = during([&] { mp3open(game, 0, "/one.mp3", c.percentage); });
+    EXPECT_EQ(asked[asked.size() - 4], "one volume " + c.volume) << c.percentage;
+  }
+  EXPECT_EQ(during([&] { mp3setvolume(game, 0, 7); }), Calls{"one volume 0"});
+  EXPECT_EQ(during([&] { mp3setvolume(game, 0, -5001); }), Calls{"one volume -5000"});
+}
+
+TEST_F(MusicRules, WhatIsNoMp3ByNameIsRefusedBeforeAnythingChanges) {
+  mp3open(game, 0, "one.mp3", 100);
+  for (const char* name : {"one.wav", "mp3", "", "one.mp3 "}) {
+    EXPECT_FALSE(mp3open(game, 0, name, 100)) << name;
+  }
+  EXPECT_EQ(during([&] { EXPECT_TRUE(mp3play(game, 0)); }), Calls{"one run"});
+}
+
+TEST_F(MusicRules, AFileThatCannotBePlayedEndsTheMusicBeforeIt) {
+  for (const char* name : {"bad.mp3", "none.mp3"}) {
+    mp3open(game, 0, "one.mp3", 100);
+    EXPECT_EQ(during([&] { EXPECT_FALSE(mp3open(game, 0, name, 50)); }), Calls{"one end"});
+    EXPECT_FALSE(mp3play(game, 0));
+    EXPECT_EQ(game.music.mp3files[0], "one.mp3");
+  }
+  EXPECT_EQ(folder.read("debuglog.txt"), "");
+}
+
+TEST_F(MusicRules, ReloadingPlayer0LeavesPlayer1Alone) {
+  mp3load(game, 0, "one.mp3");
+  mp3load(game, 1, "two.MP3");
+  EXPECT_EQ(during([&] { mp3load(game, 0, "one.mp3"); }),
+            (Calls{"one end", "one volume 0", "one volume -5000", "one balance 0", "one position 0",
+                   "one run"}));
+}
+
+TEST_F(MusicRules, MusicSwitchedOffLoadsNothingAndPlayer0DoesNotStart) {
+  mp3load(game, 0, "one.mp3");
+  mp3load(game, 1, "two.MP3");
+  game.music.musicoff = 1;
+  EXPECT_FALSE(mp3open(game, 1, "one.mp3", 100));
+  EXPECT_EQ(during([&] { EXPECT_FALSE(mp3play(game, 0)); }), Calls{});
+  EXPECT_EQ(during([&] { EXPECT_TRUE(mp3play(game, 1)); }), Calls{"two run"});
+}
+
+TEST_F(MusicRules, APlayerThatDoesNotExistPlaysNothing) {
+  for (const int z : {-1, 2}) {
+    EXPECT_FALSE(mp3open(game, z, "one.mp3", 100));
+    EXPECT_FALSE(mp3play(game, z));
+    mp3setvolume(game, z, 0);
+  }
+  EXPECT_TRUE(calls.empty());
+}
+
+}  // namespace
+}  // namespace duskmarch

@@ -1,0 +1,125 @@
+// What a hero is offered, and what an enemy makes of the same options.
+#include "heroturn/optionlist.h"
+
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "ground.h"
+#include "harness.h"
+
+namespace duskmarch {
+namespace {
+
+std::string joined(const std::vector<std::string>& lines) {
+  std::string text;
+  for (const std::string& line : lines) text += (text.empty() ? "" : "|") + line;
+  return text;
+}
+
+void arrangefor(Game& game, const std::string& ground, int slot, const std::string& abilities) {
+  arrange(game, ground);
+  std::istringstream names(abilities);
+  for (std::string name; std::getline(names, name, ',');) give(game, slot, name, 1);
+}
+
+const std::string crowd =
+    "Vesper 2,2 20 4 moved | Nora 2,1 9 4 | Al 2,2 9 3 | Bo 2,1 9 3 | Cy 3,2 9 3 | Di 3,1 9 3 | "
+    "Ed 4,2 9 3 | Flo 4,3 9 3 | Gus 2,1 0 3 | Bly 2,2 0 4";
+const std::string housed =
+    "Vesper 2,2 20 4 | Al 2,2 9 3 | Table 2,2 1 | Chair 2,2 1 | Table 2,2 1 | Table 2,2 0 | "
+    "Chair 2,1 1";
+
+struct Case {
+  std::string ground;
+  std::string abilities;  // one use each
+  std::string options;
+};
+
+void PrintTo(const Case& c, std::ostream* out) {
+  *out << c.abilities << " with " << c.ground;
+}
+
+class HeroOptions : public testing::TestWithParam<Case> {};
+
+TEST_P(HeroOptions, AreWhatTheHeroCanDoNow) {
+  Player player;
+  arrangefor(player.game(), GetParam().ground, 1, GetParam().abilities);
+  listoptions(player.game(), 0);
+  EXPECT_EQ(joined(player.game().list2), GetParam().options);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Lists, HeroOptions,
+    testing::Values(
+        Case{"Vesper 2,2 20 4", "", "Move"},                               //
+        Case{"Vesper 2,2 20 4 moved", "", ""},                             //
+        Case{"Vesper 2,2 20 4 engaged", "Dive", "Dive"},                   //
+        Case{"Vesper 2,2 20 4 [Netted][Dazed] | Al 2,2 9 3", "Dive", ""},  //
+        Case{"Vesper 2,2 0 4 | Al 2,2 9 3", "Dive", ""},                   //
+        Case{"Vesper 2,2 20 4 acted t2 plans[Fight] | Al 2,2 9 3 | Table 2,2 1", "Dive",
+             "Move|Target Al|Don't target anyone"},
+        // Whom she fights already is offered again only while he has no plans.
+        Case{"Vesper 2,2 20 4 t2 | Al 2,2 9 3 plans[Fight] | Bo 2,2 9 3 plans[Fight] | Cy 1,2 9 3",
+             "", "Move|Target Bo"},
+        // In the order of her abilities; names count to the letter.
+        Case{"Vesper 2,2 20 4", "Second wind,Hook,Smoke bombs,dive,Flight,Dive,Shield",
+             "Move|Second wind|Hook|Smoke bombs|Dive|Shield"},
+        Case{housed, "Throw",
+             "Move|Target Al|Throw Al|Throw table|Throw chair|Throw table|Flip table|Flip table"},
+        Case{crowd, "Throw", "Target Al|Throw Al"},  //
+        Case{crowd, "Headbutt,Combo,Dust", "Target Al|Headbutt Al|Combo Al|Dust Al"},
+        Case{"Vesper 2,2 2 4 | Al 2,2 9 3", "Headbutt", "Move|Target Al"},
+        Case{crowd, "Kick", "Target Al|Kick Bo|Kick Cy"},
+        Case{crowd, "Pin", "Target Al|Pin Bo|Pin Di|Pin Ed|Pin Flo"},
+        Case{crowd, "Blast", "Target Al|Blast Bo|Blast Cy|Blast Di|Blast Ed"},
+        Case{crowd, "Bolas", "Target Al|Bolas Bo|Bolas Cy|Bolas Di|Bolas Ed"},
+        Case{crowd, "Net", "Target Al|Net Bo|Net Cy|Net Di|Net Ed|Net Flo"},
+        Case{"Vesper 1,1 20 4 | Al 4,1 9 3 | Bo 4,2 9 3", "Net", "Move|Net Al"},
+        Case{crowd, "Grapnel", "Target Al|Grapnel Bo|Grapnel Cy|Grapnel Ed"},
+        Case{crowd, "Heal", "Target Al|Heal Vesper|Heal Nora"}));
+
+TEST(HeroOptions, LeaveOutWhatIsUsedUp) {
+  Player player;
+  arrangefor(player.game(), "Vesper 2,2 20 4", 1, "Dive,Hook");
+  useup(player.game(), 1, "Dive", 2);
+  useup(player.game(), 1, "Hook", 1);
+  listoptions(player.game(), 0);
+  EXPECT_EQ(joined(player.game().list2), "Move");
+}
+
+class EnemyEntries : public testing::TestWithParam<Case> {};
+
+TEST_P(EnemyEntries, AreTheOptionsByDirection) {
+  Player player;
+  Game& game = player.game();
+  arrangefor(game, GetParam().ground, 1, GetParam().abilities);
+  game.listingfor = 1;
+  listoptions(game, 1);
+  EXPECT_EQ(joined(game.list3), GetParam().options);
+  EXPECT_EQ(joined(game.list2), "");
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Lists, EnemyEntries,
+    testing::Values(
+        // Each kick may go wherever heroes stand.
+        Case{"Al 2,2 9 3 | Vesper 1,2 20 4 | Nora 2,1 9 4 | Bly 2,3 0 4", "Kick",
+             "[Kick West]|[Kick North]|[Kick West]|[Kick North]"},
+        // By the edge of the map first, then once more towards whom it would hit.
+        Case{"Al 1,1 9 3 | Vesper 1,1 20 4 | Nora 2,1 9 4", "Throw",
+             "[Throw Vesper East]|[Throw Vesper South]|[Throw Vesper East]"},
+        Case{"Al 2,2 9 3 | Vesper 2,1 20 4 | Nora 4,2 9 4 | Bly 1,2 9 4 | Table 2,2 1", "Throw",
+             "[Throw table North]|[Throw table West]"},
+        Case{"Al 2,2 9 3 | Vesper 4,2 20 4 | Nora 2,3 9 4 | Bly 1,1 9 4 | Chair 2,2 1", "Throw",
+             "[Throw chair East]|[Throw chair South]"},
+        Case{"Al 2,2 9 3 | Vesper 2,2 20 4 | Nora 2,3 9 4 | Table 2,2 1",
+             "Dive,Shield,Smoke bombs,Hook,Second wind,Headbutt,Combo,Dust,Pin,Blast,Grapnel,"
+             "Bolas,Heal,Net",
+             ""},
+        Case{"Al 2,2 9 3 [Dazed] | Vesper 1,2 20 4", "Kick", ""}));
+
+}  // namespace
+}  // namespace duskmarch

@@ -1,0 +1,178 @@
+#include "campaign/savegame.h"
+
+#include <csignal>
+
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+#include "campaignkeys.h"
+
+namespace duskmarch {
+namespace {
+
+namespace fs = std::filesystem;
+
+using Lines = std::vector<std::string>;
+
+std::string joined(const Lines& lines, std::string_view ending = "\r\n") {
+  std::string text;
+  for (const std::string& line : lines) text.append(line).append(ending);
+  return text;
+}
+
+Lines operator+(Lines lines, const Lines& more) {
+  lines.insert(lines.end(), more.begin(), more.end());
+  return lines;
+}
+
+const Lines empty = Lines{"", "", " 0 ", " 0 ", " 0 ", " 0 "} + Lines(22);
+// Line 3 is the hero's name, line 14 the ability count, line 33 the upgrade points.
+const Lines hero = {"Owl, the", " 2 ", " 1 ", " 1 ", " 9 ", " 13 ", " 1 ", " 15 ",
+                    "",         "",    "[x]", " 1 ", "Net", " 2 ",  "-3 ", "",
+                    " 2 ",      " 2 ", " 4 ", " 5 ", " 8 ", " 2 ",  " 1 ", " 4 ",
+                    " 8 ",      " 0 ", " 1 ", " 0 ", " 0 ", "$N ",  " 17 "};
+const Lines campaign = Lines{" 3 ", " Rosa"} + hero + empty + empty;
+
+class SavedGame : public testing::Test {
+ protected:
+  Spoken save() {
+    return player.spoken([&] { savegame(player.game(), "game.sav"); });
+  }
+  Spoken load() {
+    return player.spoken([&] { loadgame(player.game(), "game.sav"); });
+  }
+  Spoken load(std::string_view content) {
+    player.folder().write("game.sav", content);
+    return load();
+  }
+  std::string content(std::string_view name = "game.sav") { return player.folder().read(name); }
+  fs::path file(std::string_view name) { return player.folder().path / name; }
+
+  Player player;
+  const Spoken loaded{"Game loaded."};
+  const Spoken loaderror{"Error loading game."};
+  const Spoken saveerror{"Error saving game."};
+};
+
+TEST_F(SavedGame, HoldsEveryHeroLineByLine) {
+  perform(player, 1);
+  recruit(player, 1, "Owl", {0, 2, 1});
+  EXPECT_EQ(save(), Spoken{});
+  const Lines abilities = {"Shield", " 1 ",  "",    "Heal", " 1 ",  "",    "Hook", " 1 ",
+                           "",       "Dive", " 2 ", "",     "Kick", " 1 ", ""};
+  const Lines owl = Lines{"Owl", " 1 ", " 1 ", " 1 ", " 8 ", " 8 ", "", "", "", "", "", " 5 "} +
+                    abilities + Lines{"", "", "", " 4 ", " 4 ", " 0 "} + Lines(10);
+  EXPECT_EQ(content(), joined(Lines(2) + owl + empty + empty));
+}
+
+TEST_F(SavedGame, LoadedAndSavedAgainIsTheSameBytes) {
+  for (const std::string_view ending : {"\r\n", "\n"}) {
+    EXPECT_EQ(load(joined(campaign, ending)), loaded);
+    EXPECT_EQ(player.during([&] { savegame(player.game(), "game.sav"); }).at(0).substr(6),
+              "\t0\t0\t0\tsounds/game/saved.wav");
+    EXPECT_EQ(content(), joined(campaign));
+  }
+}
+
+TEST_F(SavedGame, LoadingLeadsToTheHideout) {
+  perform(player, 2);  // a mission
+  player.press(key::escape);
+  player.press(key::escape, modifier::shift);
+  expectspoken(player, {{key::f9, "File not found."}});
+  EXPECT_TRUE(player.game().missionunderway);
+  player.folder().write("Game.SAV", joined(campaign));
+  expectspoken(player, {{key::f9, "Game loaded.", modifier::alt},
+                        {key::enter, "Owl, the has 17 upgrade points.  Press Enter to spend them."},
+                        {key::up, "Begin mission 4."}});
+  EXPECT_FALSE(player.game().missionunderway);
+}
+
+TEST_F(SavedGame, AnEarlierOneIsKept) {
+  player.folder().write("game.sav", "older");
+  player.folder().write("game.sav.bak", "oldest");
+  EXPECT_EQ(save(), Spoken{});
+  EXPECT_EQ(content("game.sav.bak"), "older");
+  EXPECT_EQ(content(), joined(Lines(2) + empty + empty + empty));
+  fs::remove(file("game.sav.bak"));
+  fs::create_directory(file("game.sav.bak"));
+  EXPECT_EQ(save(), saveerror);
+  EXPECT_EQ(content(), joined(Lines(2) + empty + empty + empty));
+}
+
+TEST_F(SavedGame, WhatIsNoFileIsAnError) {
+  fs::create_directory(file("game.sav"));
+  EXPECT_EQ(load(), loaderror);
+  EXPECT_EQ(save(), saveerror);
+  EXPECT_FALSE(fs::exists(file("game.sav.bak")));
+  fs::remove(file("game.sav"));
+  ASSERT_EQ(mkfifo(file("game.sav").c_str(), 0600), 0);
+  EXPECT_EQ(load(), loaderror);
+  EXPECT_EQ(save(), Spoken{});
+  EXPECT_TRUE(fs::is_regular_file(file("game.sav")));
+}
+
+TEST_F(SavedGame, AFullDiskIsNoticed) {
+  load(joined(campaign));
+  signal(SIGXFSZ, SIG_IGN);
+  rlimit before{};
+  getrlimit(RLIMIT_FSIZE, &before);
+  const rlimit full = {20, before.rlim_max};
+  setrlimit(RLIMIT_FSIZE, &full);
+  const auto events = player.during([&] { savegame(player.game(), "game.sav"); });
+  setrlimit(RLIMIT_FSIZE, &before);
+  EXPECT_EQ(events, Player::Events{"voice\tError saving game."});
+  EXPECT_EQ(content(), joined(campaign).substr(0, 20));
+  EXPECT_EQ(content("game.sav.bak"), joined(campaign));
+}
+
+TEST_F(SavedGame, EveryLineMustBeThere) {
+  const std::string whole = joined(campaign);
+  for (std::size_t end = 0; end < whole.size(); end = whole.find('\n', end) + 1) {
+    EXPECT_EQ(load(whole.substr(0, end)), loaderror) << end;
+  }
+  EXPECT_EQ(load(whole + "more"), loaded);
+}
+
+TEST_F(SavedGame, NumbersKeepTheirRanges) {
+  struct Case {
+    std::size_t line;
+    Lines taken;
+    Lines refused;
+  };
+  const Case cases[] = {
+      {1, {"   -1000000000 ", "", "7"}, {"1000000001", "2.5", "two", "+2", "99999999999999999999"}},
+      {4, {"3"}, {"4", "-1"}},
+      {5, {"2"}, {"3"}},
+      {6, {"4"}, {"5"}},
+      {9, {"0", "15"}, {"16", "-1"}},
+      {12, {"15"}, {"16"}},
+      {14, {" 1"}, {"100", "-1", "1\t"}},
+      {26, {"99"}, {"100"}},
+      {33, {"-5"}, {"1 1", "x"}},
+  };
+  for (const Case& numbers : cases) {
+    Lines lines = campaign;
+    for (const std::string& text : numbers.taken) {
+      lines[numbers.line - 1] = text;
+      EXPECT_EQ(load(joined(lines)), loaded) << numbers.line << ": " << text;
+    }
+    for (const std::string& text : numbers.refused) {
+      lines[numbers.line - 1] = text;
+      EXPECT_EQ(load(joined(lines)), loaderror) << numbers.line << ": " << text;
+    }
+  }
+}
+
+TEST_F(SavedGame, WhatWasReadBeforeTheDamageStays) {
+  Lines lines = campaign;
+  lines[13] = " 99 ";  // more abilities than the file has lines
+  EXPECT_EQ(load(joined(lines)), loaderror);
+  EXPECT_EQ(player.game().missionnumber, 3);
+  EXPECT_EQ(player.game().mob(1).mobname, "Owl, the");
+  EXPECT_FALSE(player.game().mob(1).fight.isset());
+  EXPECT_EQ(player.game().menuname, screen::mainmenu);
+  EXPECT_GT(player.game().mob(1).abilities.size(), 99u);
+}
+
+}  // namespace
+}  // namespace duskmarch

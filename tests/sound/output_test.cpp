@@ -1,0 +1,202 @@
+// From the game's calls to what the sound device gets, through SDL's disk driver.
+#include <cmath>
+#include <cstdlib>
+#include <future>
+#include <numbers>
+
+#include <sndfile.h>
+
+#include "../harness.h"
+#include "audio/music.h"
+#include "platform/sound/decodedmusic.h"
+#include "platform/sound/soundoutput.h"
+
+namespace duskmarch {
+namespace {
+
+using Samples = std::vector<float>;
+
+// Tells when so many frames have been played.
+class FrameCount : public AudioSource {
+ public:
+  explicit FrameCount(std::size_t wanted) : left_(wanted) {}
+  void mix(float*, std::size_t frames) noexcept override {
+    if (left_ > 0 && left_ <= frames) reached.set_value();
+    left_ -= std::min(left_, frames);
+  }
+  std::promise<void> reached;
+
+ private:
+  std::size_t left_;
+};
+
+// What the device gets in the half second after `action`; what that returns is kept until then.
+template <class Action>
+Samples recorded(const ProgramFolder& folder, Action action) {
+  const std::filesystem::path file = folder.path / "device.raw";
+  setenv("SDL_AUDIODRIVER", "disk", 1);
+  setenv("SDL_DISKAUDIOFILE", file.c_str(), 1);
+  {
+    SoundOutput output([](std::string_view line) { ADD_FAILURE() << line; });
+    output.start();
+    [[maybe_unused]] const auto kept = action(output);
+    const auto count = std::make_shared<FrameCount>(mixrate / 2);
+    output.mixer()->addsource(count);
+    count->reached.get_future().wait();
+  }
+  Samples samples(std::filesystem::file_size(file) / sizeof(float));
+  std::ifstream(file, std::ios::binary)
+      .read(reinterpret_cast<char*>(samples.data()),
+            static_cast<std::streamsize>(samples.size() * sizeof(float)));
+  return samples;
+}
+
+TEST(SoundOutputs, AnEffectReachesTheDeviceAtItsLevelsAndEndsWithItsLastSample) {
+  const ProgramFolder folder;
+  const Samples heard = recorded(folder, [](SoundOutput& output) {
+    output.mixer()->load(2, std::make_shared<const Clip>(Clip{1, Samples(4800, 0.5F)}));
+    output.mixer()->setvolume(2, -600);
+    output.mixer()->setpan(2, -1400);
+    output.mixer()->play(2, false);
+    return 0;
+  });
+  std::size_t sounding = 0;
+  for (std::size_t n = 0; n < heard.size(); n += 2) {
+    if (heard[n] == 0) continue;
+    ++sounding;
+    ASSERT_NEAR(20 * std::log10(heard[n] / 0.5), -6, 0.01);
+    ASSERT_NEAR(20 * std::log10(heard[n + 1] / 0.5), -20, 0.01);
+  }
+  EXPECT_EQ(sounding, 4800U);
+}
+
+TEST(SoundOutputs, WithoutADeviceTheStartFails) {
+  setenv("SDL_AUDIODRIVER", "nosuch", 1);
+  SoundOutput output([](std::string_view) {});
+  EXPECT_THROW(output.start(), PlatformError);
+}
+
+// A second of a 441 Hz tone with amplitude 0.5.
+void writemp3(const std::filesystem::path& file) {
+  SF_INFO info{};
+  info.samplerate = 44100;
+  info.channels = 1;
+  info.format = SF_FORMAT_MPEG | SF_FORMAT_MPEG_LAYER_III;
+  SNDFILE* mp3 = sf_open(file.c_str(), SFM_WRITE, &info);
+  ASSERT_NE(mp3, nullptr) << sf_strerror(nullptr);
+  Samples tone(44100);
+  for (std::size_t n = 0; n < tone.size(); ++n) {
+    tone[n] = 0.5F * std::sin(static_cast<float>(n % 100) * std::numbers::pi_v<float> / 50);
+  }
+  sf_writef_float(mp3, tone.data(), 44100);
+  sf_close(mp3);
+}
+
+// The stand-in desktop's, but for its music.
+class MusicSystem : public System {
+ public:
+  MusicSystem(System& others, std::shared_ptr<Mixer> mixer)
+      : others_(others), mixer_(std::move(mixer)) {}
+  std::filesystem::path programfolder() const override { return others_.programfolder(); }
+  std::uint32_t secondssincemidnight() const override { return 0; }
+  std::unique_ptr<Voice> createvoice() override { return others_.createvoice(); }
+  std::unique_ptr<JawsApi> createjaws() override { return others_.createjaws(); }
+  std::unique_ptr<SoundDevice> opensound() override { return others_.opensound(); }
+  std::unique_ptr<MusicGraph> createmusic(const std::filesystem::path& file) override {
+    return std::make_unique<DecodedMusic>(mixer_, file);
+  }
+  bool readerattached() const override { return true; }
+  void end() override {}
+
+ private:
+  System& others_;
+  std::shared_ptr<Mixer> mixer_;
+};
+
+struct MusicGame {
+  explicit MusicGame(const ProgramFolder& folder, std::shared_ptr<Mixer> mixer)
+      : replay({.folder = folder.path}), system(replay.system, std::move(mixer)) {
+    game.programfolder = folder.path;
+    writemp3(folder.path / "tone.mp3");
+  }
+  ReplayDesktop replay;
+  MusicSystem system;
+  Desktop desktop{system, replay.window, replay.summary, replay.story, replay.dialogs};
+  Game game{desktop};
+};
+
+// Of a tone of amplitude 0.5 on one side, in decibels, in a fifth of a second from `frame` on.
+double level(const Samples& heard, std::size_t side, std::size_t frame) {
+  double sum = 0;
+  for (std::size_t n = frame; n < frame + 9600; ++n) {
+    sum += heard[2 * n + side] * heard[2 * n + side];
+  }
+  return 10 * std::log10(sum / 9600 / 0.125);
+}
+
+TEST(MusicPlaying, AnMp3ReachesTheDeviceAtTheLevelAskedFor) {
+  const ProgramFolder folder;
+  const Samples heard = recorded(folder, [&](SoundOutput& output) {
+    auto music = std::make_unique<MusicGame>(folder, output.mixer());
+    int volume = 90;
+    mp3load(music->game, 0, "/Tone.mp3", volume);
+    return music;
+  });
+  const auto start = std::ranges::find_if(heard, [](float sample) { return sample != 0; });
+  const auto frame = static_cast<std::size_t>(start - heard.begin()) / 2 + 4800;
+  ASSERT_GT(heard.size(), 2 * (frame + 9600));
+  EXPECT_NEAR(level(heard, 0, frame), -5, 0.1);
+  EXPECT_NEAR(level(heard, 1, frame), -5, 0.1);
+}
+
+Samples rendered(Mixer& mixer) {
+  Samples samples(std::size_t{2} * 19200);
+  mixer.render(samples.data(), 19200);
+  return samples;
+}
+
+TEST(MusicPlaying, Player1GoesOnWhilePlayer0IsReloaded) {
+  const ProgramFolder folder;
+  const auto alone = std::make_shared<Mixer>(), both = std::make_shared<Mixer>();
+  MusicGame undisturbed(folder, alone), game(folder, both);
+  mp3load(undisturbed.game, 1, "tone.mp3");
+  for (const int z : {0, 1}) mp3load(game.game, z, "tone.mp3");
+  game.game.music.players[0]->setbalance(-10000);  // all but gone on the right
+  for (int part = 0; part < 2; ++part) {
+    const Samples wanted = rendered(*alone), heard = rendered(*both);
+    for (std::size_t n = 1; n < wanted.size(); n += 2) ASSERT_NEAR(heard[n], wanted[n], 1e-4) << n;
+    mp3load(game.game, 0, "tone.mp3");
+    game.game.music.players[0]->setbalance(-10000);
+  }
+}
+
+TEST(MusicPlaying, MusicEndsWithItsGraphAndBeginsAnewAtItsStart) {
+  const ProgramFolder folder;
+  writemp3(folder.path / "tone.mp3");
+  const auto mixer = std::make_shared<Mixer>();
+  auto music = std::make_unique<DecodedMusic>(mixer, folder.path / "tone.mp3");
+  EXPECT_EQ(rendered(*mixer), Samples(38400));  // not before it is run
+  music->run();
+  const Samples first = rendered(*mixer);
+  EXPECT_NEAR(level(first, 0, 4800), 0, 0.1);
+  for (int n = 0; n < 3; ++n) rendered(*mixer);
+  EXPECT_EQ(rendered(*mixer), Samples(38400));
+  music->setposition(0);
+  EXPECT_NEAR(level(rendered(*mixer), 0, 4800), 0, 0.1);
+  music.reset();
+  EXPECT_EQ(rendered(*mixer), Samples(38400));
+}
+
+TEST(MusicPlaying, WhatIsNoMp3IsRefused) {
+  const ProgramFolder folder;
+  const auto mixer = std::make_shared<Mixer>();
+  folder.write("empty.mp3", "");
+  folder.write("noise.mp3", std::string(5000, '\x5a'));
+  for (const char* name :
+       {"empty.mp3", "noise.mp3", "sounds/menu/arrows.wav", "none.mp3", "sounds"}) {
+    EXPECT_THROW(DecodedMusic(mixer, folder.path / name), PlatformError) << name;
+  }
+}
+
+}  // namespace
+}  // namespace duskmarch

@@ -1,0 +1,134 @@
+// Which files are played as effects, and which are refused.
+#include "platform/sound/wavfile.h"
+
+#include <bit>
+#include <limits>
+
+#include <sys/stat.h>
+
+#include "../harness.h"
+#include "platform/sound/mixedsounds.h"
+
+namespace duskmarch {
+namespace {
+
+std::string number(std::uint64_t value, int bytes) {
+  std::string text;
+  for (; bytes > 0; --bytes, value >>= 8) text += static_cast<char>(value & 255);
+  return text;
+}
+
+struct Wav {
+  unsigned encoding = 1;  // 3: floating point
+  unsigned channels = 1;
+  unsigned rate = 48000;
+  unsigned bits = 16;
+  std::string data = number(0x4000, 2) + number(0xC000, 2);
+  std::uint64_t size = data.size();  // as claimed
+};
+
+std::string wav(const Wav& w) {
+  const unsigned frame = w.channels * w.bits / 8;
+  const std::string body = "WAVEfmt " + number(16, 4) + number(w.encoding, 2) +
+                           number(w.channels, 2) + number(w.rate, 4) +
+                           number(std::uint64_t{w.rate} * frame, 4) + number(frame, 2) +
+                           number(w.bits, 2) + "data" + number(w.size, 4) + w.data;
+  return "RIFF" + number(body.size(), 4) + body;
+}
+
+std::string floats(float value) {
+  return number(std::bit_cast<std::uint32_t>(value), 4);
+}
+
+// Why a file of these bytes is refused; empty when it is not.
+std::string refusal(const ProgramFolder& folder, const std::string& bytes) {
+  folder.write("x.wav", bytes);
+  try {
+    readwav(folder.path / "x.wav");
+    return "";
+  } catch (const PlatformError& error) {
+    return error.what();
+  }
+}
+
+TEST(WavFiles, DamagedOnesAreRefused) {
+  const ProgramFolder folder;
+  const std::string whole = wav({});
+  const std::string none = "no numbers", more = "longer than the file", kind = "not a RIFF WAVE";
+  const std::pair<std::string, std::string> cases[] = {
+      {"", kind},
+      {whole.substr(0, 11), kind},
+      {"OggS" + whole.substr(4), kind},
+      {whole.substr(0, 36), "no data chunk"},
+      {wav({.size = 6}), more},
+      {wav({.size = 0xFFFFFFFF}), more},
+      {whole.substr(0, whole.size() - 1), more},
+      {wav({.data = ""}), "no sound"},
+      {wav({.channels = 3, .data = std::string(6, 1)}), "two channels"},
+      {wav({.rate = 3999}), "a rate of 3999"},
+      {wav({.rate = 192001}), "a rate of 192001"},
+      {wav({.encoding = 3, .bits = 32, .data = floats(std::numeric_limits<float>::quiet_NaN())}),
+       none},
+      {wav({.encoding = 3, .bits = 32, .data = floats(std::numeric_limits<float>::infinity())}),
+       none},
+  };
+  for (const auto& [bytes, reason] : cases) {
+    EXPECT_NE(refusal(folder, bytes).find(reason), std::string::npos)
+        << reason << " expected, not: " << refusal(folder, bytes);
+  }
+  EXPECT_NE(refusal(folder, wav({.channels = 0})), "");
+  EXPECT_NE(refusal(folder, wav({.rate = 0})), "");
+  EXPECT_NE(refusal(folder, wav({.encoding = 0x1234})), "");
+}
+
+TEST(WavFiles, WhatIsNoRegularFileIsRefusedWithoutWaiting) {
+  const ProgramFolder folder;
+  mkfifo((folder.path / "pipe.wav").c_str(), 0600);
+  for (const char* name : {"pipe.wav", "sounds", "none.wav"}) {
+    EXPECT_THROW(readwav(folder.path / name), PlatformError) << name;
+  }
+}
+
+TEST(WavFiles, GoodOnesAreDecodedToTheMixersRate) {
+  const ProgramFolder folder;
+  folder.write("x.wav", wav({}));
+  EXPECT_EQ(readwav(folder.path / "x.wav").samples, (std::vector<float>{0.5F, -0.5F}));
+  folder.write("x.wav", wav({.channels = 2, .rate = 22050, .data = std::string(4 * 2205, '\x20')}));
+  const Clip slow = readwav(folder.path / "x.wav");  // a tenth of a second
+  EXPECT_EQ(slow.channels, 2U);
+  EXPECT_NEAR(static_cast<double>(slow.frames()), 4800, 1);
+  EXPECT_NEAR(slow.samples[4800], 0x2020 / 32768.0, 0.002);
+}
+
+TEST(WavFiles, ABadFileLeavesTheBufferAsItWasAndTheErrorNamesIt) {
+  const ProgramFolder folder;
+  folder.write("good.wav", wav({}));
+  folder.write("bad.wav", wav({.size = 6}));
+  const auto mixer = std::make_shared<Mixer>();
+  MixedSounds sounds(mixer);
+  sounds.load(8, "good", folder.path / "good.wav");
+  try {
+    sounds.load(8, "\\bad.wav", folder.path / "bad.wav");
+    ADD_FAILURE() << "it was taken";
+  } catch (const PlatformError& error) {
+    EXPECT_TRUE(std::string(error.what()).starts_with("\\bad.wav: ")) << error.what();
+  }
+  sounds.play(8, false);
+  std::vector<float> heard(2);
+  mixer->render(heard.data(), 1);
+  EXPECT_EQ(heard, (std::vector<float>{0.5F, 0.5F}));
+}
+
+TEST(WavFiles, TheGamesOwnNeedNoResampling) {
+  for (const char* name : {"menu/arrows", "menu/enter", "menu/previous", "menu/SAPI", "menu/NVDA",
+                           "menu/WE", "menu/JAWS", "game/saved"}) {
+    const std::filesystem::path file = std::string(SOURCE_FOLDER "/sounds/") + name + ".wav";
+    const Clip clip = readwav(file);
+    EXPECT_EQ(std::filesystem::file_size(file), 44 + 2 * clip.samples.size()) << name;
+    EXPECT_EQ(clip.samples.front(), 0) << name;
+    EXPECT_NEAR(clip.samples.back(), 0, 0.001) << name;
+  }
+}
+
+}  // namespace
+}  // namespace duskmarch

@@ -1,0 +1,178 @@
+#include "shell/speech.h"
+
+#include "harness.h"
+
+namespace duskmarch {
+namespace {
+
+using Lines = std::vector<std::string>;
+
+TEST(Speech, EachModeSpeaksByItsEngine) {
+  struct Case {
+    int mode;
+    bool voice;
+    Lines first, again;
+  };
+  const Lines keys = {"synthetic\t17\tdown", "synthetic\t16\tdown", "synthetic\t84\tdown",
+                      "synthetic\t17\tup",   "synthetic\t16\tup",   "synthetic\t84\tup"};
+  Lines titlekeys = {"title\tHello"}, changedkeys = {"title\tHello ", "title\tHello"};
+  titlekeys.insert(titlekeys.end(), keys.begin(), keys.end());
+  changedkeys.insert(changedkeys.end(), keys.begin(), keys.end());
+  const Case cases[] = {
+      {0, true, {"voice\tHello"}, {"voice\tHello"}},
+      {0, false, {"title\tHello"}, {"title\tHello"}},
+      {1, true, {"title\tHello"}, {"title\tHello ", "title\tHello"}},
+      {2, true, titlekeys, changedkeys},
+      {3, true, {"jaws\tHello"}, {"jaws\tHello"}},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.mode);
+    Player player({.voice = c.voice, .jaws = true});
+    player.game().speechmode = c.mode;
+    const auto hello = [&] { sayit(player.game(), "Hello"); };
+    EXPECT_EQ(player.during(hello), c.first);
+    EXPECT_EQ(player.during(hello), c.again);
+  }
+}
+
+TEST(Speech, AMissingJawsCostsOneTextAndOneLogLine) {
+  Player player;
+  player.game().speechmode = 3;
+  EXPECT_EQ(player.during([&] { sayit(player.game(), "Lost"); }), Lines{});
+  EXPECT_EQ(player.folder().read("debuglog.txt").substr(0, 16), "error in sayit: ");
+  EXPECT_EQ(player.game().saidlines[1], "Lost");
+}
+
+TEST(Speech, HistoryIsReviewedWithoutGrowing) {
+  Player player;
+  for (int n = 1; n <= 1200; ++n) sayit(player.game(), "line " + std::to_string(n));
+  EXPECT_EQ(player.game().saidlines[999], "line 202");
+  sayit(player.game(), "");
+  EXPECT_EQ(player.game().saidlines[1], "line 1200");
+  struct Step {
+    int key, shift, position;
+    std::string text;
+  };
+  const Step steps[] = {
+      {key::rightbracket, 0, 1, "Rev 1, line 1200"},
+      {key::period, 1, 6, "Rev 6, line 1195"},
+      {key::leftbracket, 0, 5, "Rev 5, line 1196"},
+      {key::rightbracket, 2, 5, "Rev 5, line 1196"},
+      {key::comma, 1, 0, ""},
+      {key::leftbracket, 0, 0, ""},
+  };
+  for (const Step& step : steps) {
+    EXPECT_EQ(player.press(step.key, step.shift), Lines{"voice\t" + step.text});
+    EXPECT_EQ(player.game().reviewpos, step.position);
+  }
+  player.game().reviewpos = 997;
+  player.press(key::rightbracket, 1);
+  EXPECT_EQ(player.game().reviewpos, 999);
+  player.press(key::shift, 1);  // any other key ends the review
+  EXPECT_EQ(player.game().reviewpos, 0);
+}
+
+TEST(Speech, TabWalksTheEnginesAndSavesEach) {
+  Player player;
+  EXPECT_EQ(player.press(key::tab), Lines{"play\t2\t0\t0\t0\tsounds/Menu/NVDA.wav"});
+  EXPECT_EQ(player.folder().read("progress.ini"), " 1 \r\n 2 \r\n\r\n");
+  EXPECT_EQ(player.press(key::tab), Lines{"play\t3\t0\t0\t0\tsounds/Menu/WE.wav"});
+  EXPECT_EQ(player.press(key::tab),
+            (Lines{"title\tQuorvane's Duskmarch (v0.1 testing 3)",
+                   "voice\tJaws does not seem to be responding, Sapi on."}));
+  EXPECT_EQ(player.folder().read("progress.ini"), " 0 \r\n 2 \r\n\r\n");
+
+  Player withjaws({.jaws = true});
+  withjaws.game().speechmode = 2;
+  EXPECT_EQ(withjaws.press(key::tab), (Lines{"title\tQuorvane's Duskmarch (v0.1 testing 3)",
+                                             "play\t2\t0\t0\t0\tsounds/Menu/JAWS.wav"}));
+  EXPECT_EQ(withjaws.press(key::tab), (Lines{"title\tQuorvane's Duskmarch (v0.1 testing 3)",
+                                             "play\t3\t0\t0\t0\tsounds/Menu/SAPI.wav"}));
+}
+
+TEST(Speech, TheRateStaysWithinBounds) {
+  Player player;
+  player.game().sapirate = 9;
+  EXPECT_EQ(player.press(key::pageup), (Lines{"rate\t10", "voice\tSapi rate changed to 10."}));
+  EXPECT_EQ(player.press(key::pageup), (Lines{"rate\t10", "voice\tSapi rate changed to 10."}));
+  player.game().sapirate = 1;
+  EXPECT_EQ(player.press(key::pagedown), (Lines{"rate\t1", "voice\tSapi rate changed to 1."}));
+  EXPECT_EQ(player.folder().read("progress.ini"), " 0 \r\n 1 \r\n\r\n");
+  Player mute({.voice = false});
+  EXPECT_EQ(mute.press(key::pageup), Lines{"title\tSapi rate changed to 3."});
+}
+
+TEST(Speech, ProgressFileSetsWhatMakesSense) {
+  struct Case {
+    std::string content;
+    int mode, rate;
+    std::string spare;
+    bool ratetold;
+  };
+  const Case cases[] = {
+      {" 2 \r\n 5 \r\n\r\n", 2, 5, "", true},
+      {"3\n4.5\n keep me \n", 3, 4, " keep me ", true},
+      {" 1 ", 1, 2, "", false},
+      {"", 0, 2, "", false},
+      {"4\r\n0.9\r\n7", 0, 2, "7", false},
+      {"-0.5\n11\n", 0, 2, "", false},
+      {"1e400\nnan\n", 0, 2, "", false},
+      {"2x\n 10.99 \n", 0, 10, "", true},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.content);
+    ProgramFolder folder;
+    folder.write("progress.ini", c.content);
+    Player player({.folder = folder.path});
+    EXPECT_EQ(player.game().speechmode, c.mode);
+    EXPECT_EQ(player.game().sapirate, c.rate);
+    EXPECT_EQ(player.game().progressspare, c.spare);
+    const auto events = player.events();
+    EXPECT_EQ(std::ranges::count(events, "rate\t" + std::to_string(c.rate)),
+              (c.ratetold ? 1 : 0) + (c.rate == 2 ? 1 : 0));
+    player.press(key::pageup);
+    EXPECT_TRUE(folder.read("progress.ini").ends_with(c.spare + "\r\n"));
+  }
+}
+
+TEST(Speech, AFolderThatCannotBeWrittenIsToldOnce) {
+  Player player;
+  std::filesystem::create_directory(player.folder().path / "progress.ini");
+  EXPECT_EQ(player.spokenby(key::pageup).size(), 2u);
+  EXPECT_EQ(player.spokenby(key::pageup), Lines{"Sapi rate changed to 4."});
+}
+
+// A canvas of 280 pixels holds exactly 16 characters a line: (280 / 28) x 1.6.
+class NarrowCanvas : public Canvas {
+ public:
+  int width() const override { return 280; }
+  int height() const override { return 660; }
+  void fill(const Rect& area, Colour) override {
+    operations.push_back("fill " + std::to_string(area.top) + " " + std::to_string(area.bottom));
+  }
+  void outline(const Rect&, Colour) override {}
+  void text(int, int y, std::string_view, int, Colour, std::string_view text) override {
+    operations.push_back("text " + std::to_string(y) + " " + std::string(text));
+  }
+  Lines operations;
+};
+
+TEST(Speech, PaintingWrapsByCharactersAndErasesWhatWasThere) {
+  Player player;
+  NarrowCanvas canvas;
+  const auto painted = [&](std::string_view text) {
+    canvas.operations.clear();
+    player.session().replay.window.drawon(&canvas);
+    sayit(player.game(), text);
+    return canvas.operations;
+  };
+  EXPECT_EQ(painted("short"), (Lines{"fill 0 100", "text 15 short"}));
+  EXPECT_EQ(painted("0123456789abcdefÄbcdefghijklmnop0123"),
+            (Lines{"fill 0 100", "text 15 0123456789abcdef", "text 55 Äbcdefghijklmnop",
+                   "fill 95 135", "text 95 0123"}));
+  EXPECT_EQ(painted(""), (Lines{"fill 0 140", "text 15 "}));
+  EXPECT_EQ(painted("next"), (Lines{"fill 0 100", "text 15 next"}));
+}
+
+}  // namespace
+}  // namespace duskmarch
