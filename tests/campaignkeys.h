@@ -40,9 +40,9 @@ inline Spoken recruit(Player& player, int slot, std::string name, std::array<int
   perform(player, slot);
   player.answer(std::move(name));
   perform(player, 1);
-  for (int n = 0; n < 3; ++n) {
-    for (int left = changes.at(static_cast<std::size_t>(n)); left > 0; --left) {
-      perform(player, 3 + n);
+  for (std::size_t bonus = 0; bonus < 3; ++bonus) {
+    for (int left = changes.at(bonus); left > 0; --left) {
+      perform(player, 3 + static_cast<int>(bonus));
     }
   }
   return perform(player, 6);

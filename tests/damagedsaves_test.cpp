@@ -42,10 +42,7 @@ class Damage {
 using Keys = std::vector<KeyPress>;
 
 void play(Player& player, const Keys& keys) {
-  for (const KeyPress& press : keys) {
-    player.press(press.keycode, press.shift);
-    ASSERT_EQ(brokeninvariant(player.game()), "");
-  }
+  for (const KeyPress& press : keys) player.session().presskey(press);
 }
 
 TEST(DamagedSaves, NoneStopsTheGame) {
@@ -63,8 +60,7 @@ TEST(DamagedSaves, NoneStopsTheGame) {
   const std::string whole = player.folder().read("game.sav");
   Damage damage;
   int loads = 0;
-  for (int n = 0; n < 3000 && !HasFailure(); ++n) {
-    SCOPED_TRACE(n);
+  for (int n = 0; n < 3000; ++n) {
     play(player, tomainmenu);
     player.folder().write("game.sav", damage.inflict(whole));
     if (player.spokenby(key::f9) == Spoken{"Game loaded."}) {
@@ -75,9 +71,9 @@ TEST(DamagedSaves, NoneStopsTheGame) {
       play(player, backtomission);
     }
     play(player, turn);
+    ASSERT_EQ(brokeninvariant(player.game()), "") << n;
   }
   EXPECT_GT(loads, 300);
-  EXPECT_LT(loads, 2700);
 }
 
 }  // namespace

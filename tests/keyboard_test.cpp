@@ -94,7 +94,7 @@ TEST(Keyboard, TheSummaryTakesTheKeysAndLeadsBackIntoTheMission) {
   EXPECT_EQ(player.press(key::n), Lines{});
   EXPECT_EQ(player.press(key::ctrl), Lines{"voice\t"});
   EXPECT_EQ(player.press(key::escape),
-            (Lines{"hide\tsummary", "play\t5\t0\t0\t0\tsounds/Menu/previous.wav",
+            (Lines{"hide\tsummary", "play\t6\t0\t0\t0\tsounds/Menu/previous.wav",
                    "voice\tB 5, 2 here.  Nightjar and Steelwing.  "}));
   player.press(key::escape, modifier::shift);
   player.press(key::l);

@@ -113,7 +113,7 @@ INSTANTIATE_TEST_SUITE_P(
              "[Throw Vesper East]|[Throw Vesper South]|[Throw Vesper East]"},
         Case{"Al 2,2 9 3 | Vesper 2,1 20 4 | Nora 4,2 9 4 | Bly 1,2 9 4 | Table 2,2 1", "Throw",
              "[Throw table North]|[Throw table West]"},
-        Case{"Al 2,2 9 3 | Vesper 4,2 20 4 | Nora 2,3 9 4 | Bly 1,1 9 4 | Chair 2,2 1", "Throw",
+        Case{"Al 2,2 9 3 | Vesper 4,2 20 4 | Nora 2,3 9 4 | Bly 2,1 0 4 | Chair 2,2 1", "Throw",
              "[Throw chair East]|[Throw chair South]"},
         Case{"Al 2,2 9 3 | Vesper 2,2 20 4 | Nora 2,3 9 4 | Table 2,2 1",
              "Dive,Shield,Smoke bombs,Hook,Second wind,Headbutt,Combo,Dust,Pin,Blast,Grapnel,"

@@ -35,29 +35,29 @@ const Lines campaign = Lines{" 3 ", " Rosa"} + hero + empty + empty;
 
 class SavedGame : public testing::Test {
  protected:
-  Spoken save() {
-    return player.spoken([&] { savegame(player.game(), "game.sav"); });
+  std::string save() {
+    return player.during([&] { savegame(player.game(), "game.sav"); }).front();
   }
-  Spoken load() {
-    return player.spoken([&] { loadgame(player.game(), "game.sav"); });
-  }
-  Spoken load(std::string_view content) {
+  std::string load(std::string_view content) {
     player.folder().write("game.sav", content);
     return load();
+  }
+  std::string load() {
+    return player.during([&] { loadgame(player.game(), "game.sav"); }).front();
   }
   std::string content(std::string_view name = "game.sav") { return player.folder().read(name); }
   fs::path file(std::string_view name) { return player.folder().path / name; }
 
   Player player;
-  const Spoken loaded{"Game loaded."};
-  const Spoken loaderror{"Error loading game."};
-  const Spoken saveerror{"Error saving game."};
+  const std::string loaded = "voice\tGame loaded.";
+  const std::string loaderror = "voice\tError loading game.";
+  const std::string saveerror = "voice\tError saving game.";
 };
 
 TEST_F(SavedGame, HoldsEveryHeroLineByLine) {
   perform(player, 1);
   recruit(player, 1, "Owl", {0, 2, 1});
-  EXPECT_EQ(save(), Spoken{});
+  EXPECT_TRUE(save().ends_with("\t0\t0\t0\tsounds/game/saved.wav"));
   const Lines abilities = {"Shield", " 1 ",  "",    "Heal", " 1 ",  "",    "Hook", " 1 ",
                            "",       "Dive", " 2 ", "",     "Kick", " 1 ", ""};
   const Lines owl = Lines{"Owl", " 1 ", " 1 ", " 1 ", " 8 ", " 8 ", "", "", "", "", "", " 5 "} +
@@ -68,8 +68,7 @@ TEST_F(SavedGame, HoldsEveryHeroLineByLine) {
 TEST_F(SavedGame, LoadedAndSavedAgainIsTheSameBytes) {
   for (const std::string_view ending : {"\r\n", "\n"}) {
     EXPECT_EQ(load(joined(campaign, ending)), loaded);
-    EXPECT_EQ(player.during([&] { savegame(player.game(), "game.sav"); }).at(0).substr(6),
-              "\t0\t0\t0\tsounds/game/saved.wav");
+    save();
     EXPECT_EQ(content(), joined(campaign));
   }
 }
@@ -90,13 +89,14 @@ TEST_F(SavedGame, LoadingLeadsToTheHideout) {
 TEST_F(SavedGame, AnEarlierOneIsKept) {
   player.folder().write("game.sav", "older");
   player.folder().write("game.sav.bak", "oldest");
-  EXPECT_EQ(save(), Spoken{});
+  save();
   EXPECT_EQ(content("game.sav.bak"), "older");
-  EXPECT_EQ(content(), joined(Lines(2) + empty + empty + empty));
+  const std::string saved = content();
+  EXPECT_EQ(saved, joined(Lines(2) + empty + empty + empty));
   fs::remove(file("game.sav.bak"));
   fs::create_directory(file("game.sav.bak"));
   EXPECT_EQ(save(), saveerror);
-  EXPECT_EQ(content(), joined(Lines(2) + empty + empty + empty));
+  EXPECT_EQ(content(), saved);
 }
 
 TEST_F(SavedGame, WhatIsNoFileIsAnError) {
@@ -107,7 +107,7 @@ TEST_F(SavedGame, WhatIsNoFileIsAnError) {
   fs::remove(file("game.sav"));
   ASSERT_EQ(mkfifo(file("game.sav").c_str(), 0600), 0);
   EXPECT_EQ(load(), loaderror);
-  EXPECT_EQ(save(), Spoken{});
+  save();
   EXPECT_TRUE(fs::is_regular_file(file("game.sav")));
 }
 
@@ -118,9 +118,9 @@ TEST_F(SavedGame, AFullDiskIsNoticed) {
   getrlimit(RLIMIT_FSIZE, &before);
   const rlimit full = {20, before.rlim_max};
   setrlimit(RLIMIT_FSIZE, &full);
-  const auto events = player.during([&] { savegame(player.game(), "game.sav"); });
+  const std::string event = save();
   setrlimit(RLIMIT_FSIZE, &before);
-  EXPECT_EQ(events, Player::Events{"voice\tError saving game."});
+  EXPECT_EQ(event, saveerror);
   EXPECT_EQ(content(), joined(campaign).substr(0, 20));
   EXPECT_EQ(content("game.sav.bak"), joined(campaign));
 }
@@ -151,14 +151,12 @@ TEST_F(SavedGame, NumbersKeepTheirRanges) {
       {33, {"-5"}, {"1 1", "x"}},
   };
   for (const Case& numbers : cases) {
-    Lines lines = campaign;
-    for (const std::string& text : numbers.taken) {
-      lines[numbers.line - 1] = text;
-      EXPECT_EQ(load(joined(lines)), loaded) << numbers.line << ": " << text;
-    }
-    for (const std::string& text : numbers.refused) {
-      lines[numbers.line - 1] = text;
-      EXPECT_EQ(load(joined(lines)), loaderror) << numbers.line << ": " << text;
+    for (const bool good : {true, false}) {
+      for (const std::string& text : good ? numbers.taken : numbers.refused) {
+        Lines lines = campaign;
+        lines[numbers.line - 1] = text;
+        EXPECT_EQ(load(joined(lines)), good ? loaded : loaderror) << numbers.line << ": " << text;
+      }
     }
   }
 }
@@ -171,7 +169,6 @@ TEST_F(SavedGame, WhatWasReadBeforeTheDamageStays) {
   EXPECT_EQ(player.game().mob(1).mobname, "Owl, the");
   EXPECT_FALSE(player.game().mob(1).fight.isset());
   EXPECT_EQ(player.game().menuname, screen::mainmenu);
-  EXPECT_GT(player.game().mob(1).abilities.size(), 99u);
 }
 
 }  // namespace

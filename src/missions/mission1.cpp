@@ -37,8 +37,8 @@ constexpr std::array furniture = {
 // clang-format on
 
 constexpr std::array<std::string_view, 7> startpage = {
-    "It is another stormy night in the city.  Rain drums on the rooftops and runs down the gutters "
-    "in black streams.  Far away a siren wails, and then another one, closer.  In this city "
+    "It is another stormy night in the city.  Rain drums on the rooftops and runs down the "
+    "gutters in black streams.  Far away a siren wails, and then another one, closer.  Here, "
     "sirens are as common as thunder.",
 
     "High above the alleys $A is out on $AHIS nightly patrol, moving from roof to roof without a "
@@ -50,22 +50,22 @@ constexpr std::array<std::string_view, 7> startpage = {
     "enough.  It is time to act.",
 
     "By the time $A drops into the alley, the laughter has moved on.  Broken glass crunches "
-    "underfoot.  There is blood on the bricks, and more of it is washing away in the rain.  In a "
-    "puddle against the wall lies an old man, badly beaten and barely awake.",
+    "underfoot.  There is blood on the bricks, already thinning in the rain.  In a puddle "
+    "against the wall lies an old man, badly beaten and barely awake.",
 
-    "$A kneels down, places an emergency call on a burner phone, and leaves it on the ground "
-    "beside the man with the line still open.  \"Help is on the way,\" $AHE says.  \"You only "
-    "have to listen for the sirens.\"  The old man nods.  Three sets of muddy footprints lead out "
-    "of the alley, and $A follows them into the dark.",
+    "$A kneels down, places an emergency call on a burner phone, and leaves it beside the old "
+    "man with the line still open.  \"Help is on the way,\" $AHE says.  \"Stay awake, and listen "
+    "for the sirens.\"  The old man nods.  Three sets of muddy footprints lead out of the alley, "
+    "and $A follows them into the dark.",
 
-    "The trail ends two streets further on.  From the shadow of a fire escape $A sees three punks "
-    "push open the door of a small tattoo parlor.  They are still laughing about the old man, and "
-    "about how he begged them to stop.  The door falls shut before $AHE can hear the rest.",
+    "The trail ends two streets further on.  From the shadow of a fire escape $A watches three "
+    "punks walk into a small tattoo parlor.  They are still laughing about the old man, and "
+    "about how he begged them to stop.  The door falls shut before $AHE can hear any more.",
 
-    "The windows of the parlor are painted over from top to bottom, and nothing inside can be "
-    "seen.  More of their friends may be on the way, so it is best to strike now, before anyone "
-    "else arrives.  $A takes one slow breath, pushes the door open, and steps in.  Press Escape "
-    "to continue.",
+    "The windows of the parlor are painted over from top to bottom, and there is no telling what "
+    "waits inside.  More of the gang may be on the way, so it is best to strike now, before "
+    "anyone else arrives.  $A takes one slow breath, pushes the door open, and steps in.  Press "
+    "Escape to continue.",
 };
 
 constexpr std::array<std::string_view, 3> endpage = {
@@ -75,12 +75,12 @@ constexpr std::array<std::string_view, 3> endpage = {
 
     "$A drags the unconscious punks into the middle of the room and ties them up, back to back, "
     "with the cord of a broken lamp.  Outside, $AHE picks up a loose brick and throws it through "
-    "the largest window.  Glass crashes onto the street, and the parlor's alarm begins to howl.  "
-    "Now the police will know where to come.",
+    "the largest window.  The glass comes down with a crash, and the alarm of the parlor begins "
+    "to ring.  Now the police will know where to come.",
 
-    "When the first patrol car turns the corner, $A is already deep in the dark alley.  Nobody "
-    "saw $AHE was ever there.  Behind, there is only the rain, and the alarm ringing on and on.  "
-    "Mission complete.  Press Escape to continue.",
+    "When the first patrol car turns the corner, $A is already deep in the dark alley, and "
+    "nobody sees which way $AHE goes.  Behind, there is only the rain, and the alarm ringing on "
+    "and on.  Mission complete.  Press Escape to continue.",
 };
 
 }  // namespace

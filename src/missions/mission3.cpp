@@ -10,7 +10,6 @@ constexpr std::array placements = {
     Placement{.hero = 2, .x = 5, .y = 3},
 };
 
-// Six paragraphs are still to be written.
 constexpr std::array<std::string_view, 8> startpage = {
     "I don't have a mission 3 yet.  For now it's just mission 2 again, and if you beat it the game "
     "probably just crashes, haha.",

@@ -53,7 +53,7 @@ void bringtogether(Game& game) {
   }
 }
 
-void learn(Game& game, int slot, std::span<const AbilityUses> abilities) {
+void teach(Game& game, int slot, std::span<const AbilityUses> abilities) {
   game.mob(slot).abilitycount = 0;
   for (const auto& [ability, uses] : abilities) give(game, slot, ability, uses);
 }
@@ -71,7 +71,7 @@ void bring(Game& game, const ReadyHero& ready) {
   hero.maxreserve = hero.reserve = hero.reserve2 = ready.reserve;
   hero.maxfight = hero.fight = ready.fight;
   hero.gun = ready.gun;
-  learn(game, game.mobcount, ready.abilities);
+  teach(game, game.mobcount, ready.abilities);
   rememberuses(hero);
 }
 
@@ -101,7 +101,7 @@ void layout(Game& game, const Mission& mission) {
   for (const auto& [name, x, y, health] : mission.furniture) newitem(game, name, x, y, health);
   for (const Enemy& enemy : mission.enemies) {
     const int slot = newmob(game, enemy.mob);
-    if (!enemy.abilities.empty()) learn(game, slot, enemy.abilities);
+    if (!enemy.abilities.empty()) teach(game, slot, enemy.abilities);
   }
 }
 

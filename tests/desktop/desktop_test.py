@@ -59,7 +59,10 @@ def end_the_turn(reader):
     assert "-End of turn number 1." in lines, lines
     assert "Nightjar moves to the North." in lines, lines
     assert lines[-1] == "-Mission 0 begins: Invade the mobster meeting at the pool hall.", lines
-    assert lines[0].startswith(reader.line()), (lines[0], reader.line())
+    first = reader.line()
+    assert lines[0].startswith(first), (lines[0], first)
+    reader.press("Down")
+    reader.wait(lambda: reader.line() not in ("", first), "the line below")
     reader.expect("Nightjar selected at location B 4.", "Return")
 
 

@@ -19,6 +19,14 @@ def end_with_the_test():
     ctypes.CDLL(None).prctl(1, signal.SIGTERM)  # PR_SET_PDEATHSIG
 
 
+def wait(condition, what):
+    limit = time.monotonic() + LIMIT
+    while not condition():
+        if time.monotonic() > limit:
+            raise AssertionError(f"in vain: {what() if callable(what) else what}")
+        time.sleep(0.02)
+
+
 class Session:
     """A home, a display, a window manager and a session bus. What it started ends with it."""
 
@@ -32,7 +40,9 @@ class Session:
                 "Xvfb", "-displayfd", "{}", "-screen", "0", "1400x800x24", "-nolisten", "tcp")
             os.environ["DBUS_SESSION_BUS_ADDRESS"] = self.answer_of(
                 "dbus-daemon", "--session", "--nofork", "--print-address={}")
-            self.start("openbox", "--sm-disable")
+            managed = self.folder / "managed"  # a window that came sooner would not get the focus
+            self.start("openbox", "--sm-disable", "--startup", f"touch {managed}")
+            wait(managed.exists, "the window manager")
         except BaseException as error:
             self.__exit__(type(error), error, None)
             raise
@@ -100,17 +110,14 @@ class Reader:
             self.focus = event.source
 
     def wait(self, condition, what):
-        limit = time.monotonic() + LIMIT
-        while time.monotonic() < limit:
+        def after_the_news():
             while self.events.iteration(False):
                 pass
             try:
-                if result := condition():
-                    return result
+                return condition()
             except self.gone:  # what was asked about has just disappeared
-                pass
-            time.sleep(0.02)
-        raise AssertionError(f"in vain: {what}\nheard: {self.heard}\nfocus: {self.described()}")
+                return False
+        wait(after_the_news, lambda: f"{what}\nheard: {self.heard}\nfocus: {self.described()}")
 
     def described(self):
         return self.focus and (self.focus.get_role_name(), self.focus.get_name())
@@ -148,5 +155,5 @@ class Reader:
     def line(self):
         """The line of the caret, as it is shown."""
         caret = self.atspi.Text.get_caret_offset(self.focus)
-        return self.atspi.Text.get_string_at_offset(
-            self.focus, caret, self.atspi.TextGranularity.LINE).content.strip()
+        return self.atspi.Text.get_text_at_offset(
+            self.focus, caret, self.atspi.TextBoundaryType.LINE_START).content.strip()

@@ -69,8 +69,7 @@ TEST(WavFiles, DamagedOnesAreRefused) {
       {wav({.rate = 192001}), "a rate of 192001"},
       {wav({.encoding = 3, .bits = 32, .data = floats(std::numeric_limits<float>::quiet_NaN())}),
        none},
-      {wav({.encoding = 3, .bits = 32, .data = floats(std::numeric_limits<float>::infinity())}),
-       none},
+      {wav({.encoding = 3, .bits = 32, .data = floats(-1e30F)}), none},
   };
   for (const auto& [bytes, reason] : cases) {
     EXPECT_NE(refusal(folder, bytes).find(reason), std::string::npos)

@@ -15,7 +15,7 @@ FrontEnd::FrontEnd()
       desktop_{system_, window_, summarylabel_, storylabel_, dialogs_} {}
 
 void FrontEnd::run(Game& game) {
-  const TerminationSignals signals([this] { window_.end(); });
+  const TerminationSignals termination([this] { window_.end(); });
   window_.attach(game);
   startup(game);
   if (game.ended) return;

@@ -12,7 +12,7 @@ namespace duskmarch {
 
 namespace {
 
-constexpr std::array signals = {SIGINT, SIGTERM, SIGHUP};
+constexpr std::array terminating = {SIGINT, SIGTERM, SIGHUP};
 
 // A handler may do next to nothing but write to a pipe, and can reach only what is global.
 std::array<int, 2> pipeends = {-1, -1};
@@ -39,11 +39,11 @@ TerminationSignals::TerminationSignals(std::function<void()> ended)
   struct sigaction action {};
   action.sa_handler = wake;
   action.sa_flags = SA_RESTART | static_cast<int>(SA_RESETHAND);
-  for (const int number : signals) sigaction(number, &action, nullptr);
+  for (const int number : terminating) sigaction(number, &action, nullptr);
 }
 
 TerminationSignals::~TerminationSignals() {
-  for (const int number : signals) std::signal(number, SIG_DFL);
+  for (const int number : terminating) std::signal(number, SIG_DFL);
   arrival_.setEnabled(false);
   for (const int end : pipeends) close(end);
 }

@@ -16,7 +16,11 @@ namespace duskmarch {
 
 QtWindow::QtWindow() : canvas_([this](const QRect& area) { update(area); }), reader_(*this) {
   setWindowTitle(QStringLiteral("Duskmarch"));
-  setFocusPolicy(Qt::StrongFocus);
+  // A window that gets the focus has its title read out, that is the last text once more; of a
+  // part without a name nothing is said.
+  setCentralWidget(new QWidget);
+  centralWidget()->setFocusPolicy(Qt::StrongFocus);
+  setFocusProxy(centralWidget());
   setAttribute(Qt::WA_OpaquePaintEvent);  // the canvas covers all of it
   setMinimumSize(320, 200);
   resize(1288, 660);

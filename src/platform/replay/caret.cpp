@@ -16,15 +16,15 @@ Caret::Caret(std::string_view text) {
   if (lines_.empty()) lines_.emplace_back();
 }
 
-std::string_view Caret::move(int keycode) {
+std::optional<std::string_view> Caret::move(int keycode) {
   switch (keycode) {
     case key::up: return moveline(false);
     case key::down: return moveline(true);
     case key::left: return movecharacter(false);
     case key::right: return movecharacter(true);
-    case key::home: column_ = 0; return {};
+    case key::home: column_ = 0; return std::nullopt;
     case key::end: column_ = codepoints(line()); return {};
-    default: return {};
+    default: return std::nullopt;
   }
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -15,7 +16,7 @@ class Caret {
 
   // Moves by a key and tells what came under the caret: for an arrow up or down the line, for left
   // and right the character, or the line when it is another one. Other keys tell nothing.
-  std::string_view move(int keycode);
+  std::optional<std::string_view> move(int keycode);
 
  private:
   std::string_view line() const { return lines_[line_]; }

@@ -83,7 +83,7 @@ void ReplayPage::show(std::string_view text) {
   transcript_.event("show", name_, text);
 }
 
-std::string_view ReplayPage::movecaret(int keycode) {
+std::optional<std::string_view> ReplayPage::movecaret(int keycode) {
   if (!caret_) caret_.emplace(text_);
   return caret_->move(keycode);
 }

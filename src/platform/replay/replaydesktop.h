@@ -79,8 +79,8 @@ class ReplayPage final : public Page {
   void show(std::string_view text) override;
   void hide() override { transcript_.event("hide", name_); }
   void focus() override { transcript_.event("focus", name_); }
-  // What a caret key reaches in the text shown; empty for other keys.
-  std::string_view movecaret(int keycode);
+  // What an arrow key reaches in the text shown; nothing for other keys.
+  std::optional<std::string_view> movecaret(int keycode);
 
  private:
   std::string_view name_;

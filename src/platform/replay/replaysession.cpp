@@ -84,9 +84,7 @@ void ReplaySession::presskey(KeyPress key) {
   keypress(game, key);
   if (focus == Focus::window || focus != game.focus) return;
   ReplayPage& page = focus == Focus::storylabel ? replay.story : replay.summary;
-  if (const std::string_view reached = page.movecaret(key.keycode); !reached.empty()) {
-    caretmoved(game, reached);
-  }
+  if (const auto reached = page.movecaret(key.keycode)) caretmoved(game, *reached);
 }
 
 void ReplaySession::draw() {

@@ -14,6 +14,7 @@ namespace duskmarch {
 namespace {
 
 constexpr std::size_t longestsound = 600;  // seconds
+constexpr float largestsample = 1000;      // full scale is 1
 
 bool standsat(std::span<const std::byte> bytes, std::size_t offset, std::string_view name) {
   return std::ranges::equal(bytes.subspan(offset, name.size()), std::as_bytes(std::span(name)));
@@ -50,9 +51,9 @@ Clip decode(SoundDecoder& decoder) {
   clip.samples.resize(decoder.frames() * clip.channels);
   clip.samples.resize(decoder.read(clip.samples.data(), decoder.frames()) * clip.channels);
   if (clip.samples.empty()) throw PlatformError("it holds no sound");
-  const auto finite = [](float sample) { return std::isfinite(sample); };
-  if (!std::ranges::all_of(clip.samples, finite)) {
-    throw PlatformError("it holds samples that are no numbers");
+  const auto sensible = [](float sample) { return std::abs(sample) <= largestsample; };
+  if (!std::ranges::all_of(clip.samples, sensible)) {
+    throw PlatformError("it holds samples that are no numbers, or far too large");
   }
   return clip;
 }

@@ -16,8 +16,9 @@ class Espeak {
   static Espeak& instance();
 
   int samplerate() const { return samplerate_; }
-  // Returns when all of `text` has gone to `sink`, or when that wants no more; waits for a text that
-  // another thread has said. `text` is plain UTF-8 without control characters. Throws PlatformError.
+  // Returns when all of `text` has gone to `sink`, or when that wants no more; waits for a text
+  // that another thread has said. `text` is plain UTF-8 without control characters. Throws
+  // PlatformError.
   void say(const std::string& text, int wordsaminute, const SampleSink<std::int16_t>& sink);
 
  private:

@@ -9,13 +9,13 @@
 
 namespace duskmarch {
 
-// Receives a stretch of samples; false when no more are wanted. Must not throw.
+// Receives a stretch of samples; false when no more are wanted.
 template <class Sample>
 using SampleSink = std::function<bool(std::span<const Sample>)>;
 
 class Resampler {
  public:
-  // Throws PlatformError for a rate that cannot be brought to mixrate.
+  // Full scale becomes `gain`. This and feed() throw PlatformError when the library refuses.
   Resampler(int rate, float gain);
   ~Resampler();
 

@@ -26,8 +26,8 @@ std::optional<std::size_t> SpeechStream::offer(Turn turn, std::span<const float>
   if (!current(turn)) return std::nullopt;
   const std::uint64_t written = written_;
   const std::uint64_t mixed = mixed_;
-  const std::uint64_t limit = std::min(std::max<std::uint64_t>(mixed, dropped_) + ahead,
-                                       mixed + ringsize);
+  const std::uint64_t limit =
+      std::min(std::max<std::uint64_t>(mixed, dropped_) + ahead, mixed + ringsize);
   const std::size_t room = limit > written ? static_cast<std::size_t>(limit - written) : 0;
   const std::size_t taken = std::min(room, samples.size());
   for (std::size_t i = 0; i < taken; ++i) ring_[(written + i) % ringsize] = samples[i];

@@ -1,0 +1,263 @@
+#include "platform/voice/speechservice.h"
+
+#include <algorithm>
+#include <chrono>
+#include <condition_variable>
+#include <csignal>
+#include <deque>
+#include <mutex>
+#include <optional>
+#include <string>
+#include <system_error>
+#include <thread>
+#include <utility>
+
+#include <fcntl.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include "platform/voice/engines.h"
+#include "platform/voice/plaintext.h"
+#include "platform/voice/serviceconnection.h"
+
+namespace duskmarch {
+namespace {
+
+using Clock = std::chrono::steady_clock;
+using std::chrono::milliseconds;
+
+// How long a call may take before that is reported, and before the service counts as hung.
+constexpr milliseconds slow{1000};
+constexpr milliseconds patience{2000};
+// Between two tries to reach a service that is away.
+constexpr milliseconds retry{500};
+// What the end of the program waits for.
+constexpr milliseconds farewell{300};
+// More texts than anyone would wait for; of longer queues the oldest are dropped.
+constexpr std::size_t longestqueue = 200;
+
+}  // namespace
+
+// What the callers and the thread in charge share. Guarded by its mutex, all of it.
+struct SpeechService::Desk {
+  std::mutex mutex;
+  std::condition_variable wake;
+  SpeechLog log;
+
+  std::deque<std::string> texts;
+  bool cut = false;         // what is being said is not wanted any more
+  unsigned interrupts = 0;  // counted, so that a text in the library's hands can be known as old
+
+  // The number of the thread in charge, and of the last that has left. Threads that are not in
+  // charge touch nothing here and leave as soon as the library lets them.
+  unsigned incharge = 0;
+  unsigned departed = 0;
+  std::optional<Clock::time_point> callbegan;  // while the thread in charge is in the library
+  int line = -1;  // a duplicate of the connection's socket, which the library closes when it likes
+  milliseconds limit = patience;
+  bool reported = false;  // that the service is away, once until it is back
+
+  void report(const std::string& trouble);
+  void appoint(const std::shared_ptr<Desk>& self);
+  void checkhung(const std::shared_ptr<Desk>& self);
+};
+
+// The thread's side.
+class SpeechService::Clerk {
+ public:
+  Clerk(std::shared_ptr<Desk> desk, unsigned number)
+      : desk_(std::move(desk)), number_(number), lock_(desk_->mutex, std::defer_lock) {}
+
+  void work();
+
+ private:
+  bool incharge() const { return desk_->incharge == number_; }
+  bool waitforwork();
+  void rest();
+  // Runs `call` without the lock. Afterwards this thread may not be in charge any more.
+  template <class Call>
+  auto call(Call call);
+  void open();
+  void hangup();
+  void lose();
+  void cancel();
+  void saynext();
+
+  const std::shared_ptr<Desk> desk_;
+  const unsigned number_;
+  std::unique_lock<std::mutex> lock_;
+  ServiceConnection connection_;
+  int line_ = -1;
+  bool maystart_ = true;  // the service, once an outage: a service that cannot run stays away
+  bool proven_ = false;   // this connection has said something
+  bool speaking_ = false;
+};
+
+void SpeechService::Desk::report(const std::string& trouble) {
+  if (!std::exchange(reported, true)) log(trouble);
+}
+
+void SpeechService::Desk::appoint(const std::shared_ptr<Desk>& self) {
+  const unsigned number = ++incharge;
+  std::thread([self, number] { Clerk(self, number).work(); }).detach();
+}
+
+void SpeechService::Desk::checkhung(const std::shared_ptr<Desk>& self) {
+  if (!callbegan || Clock::now() - *callbegan < limit) return;
+  report("the speech service does not answer");
+  callbegan.reset();
+  if (line != -1) {
+    shutdown(line, SHUT_RDWR);
+    return;
+  }
+  // It hangs while connecting, where nothing can be shut down. Each thread left behind doubles the
+  // time until the next, so that there are few however long this lasts.
+  limit *= 2;
+  try {
+    appoint(self);
+  } catch (const std::system_error&) {
+    // Without a thread there is no speech until a later call finds one to be had.
+    callbegan = Clock::now();
+  }
+}
+
+void SpeechService::Clerk::work() {
+  lock_.lock();
+  while (waitforwork()) {
+    if (desk_->cut) {
+      cancel();
+    } else if (!connection_.isopen()) {
+      open();
+    } else {
+      saynext();
+    }
+  }
+  hangup();
+  desk_->departed = std::max(desk_->departed, number_);
+  desk_->wake.notify_all();
+}
+
+bool SpeechService::Clerk::waitforwork() {
+  desk_->wake.wait(lock_, [this] { return !incharge() || desk_->cut || !desk_->texts.empty(); });
+  return incharge();
+}
+
+void SpeechService::Clerk::rest() {
+  desk_->wake.wait_for(lock_, retry, [this] { return !incharge(); });
+}
+
+template <class Call>
+auto SpeechService::Clerk::call(Call call) {
+  const Clock::time_point began = Clock::now();
+  desk_->callbegan = began;
+  lock_.unlock();
+  auto result = call();
+  lock_.lock();
+  if (incharge()) {
+    desk_->callbegan.reset();
+    if (Clock::now() - began >= slow) desk_->report("the speech service did not answer");
+  }
+  return result;
+}
+
+void SpeechService::Clerk::open() {
+  const std::string trouble = call([this] { return connection_.open(maystart_); });
+  if (!incharge()) return;
+  proven_ = false;
+  if (trouble.empty()) {
+    desk_->line = line_ = fcntl(connection_.socket(), F_DUPFD_CLOEXEC, 0);
+    return;
+  }
+  maystart_ = false;
+  desk_->report("the speech service cannot be reached: " + trouble);
+  rest();
+}
+
+void SpeechService::Clerk::hangup() {
+  connection_.close();
+  if (line_ == -1) return;
+  desk_->line = -1;
+  ::close(std::exchange(line_, -1));
+}
+
+void SpeechService::Clerk::lose() {
+  hangup();
+  speaking_ = false;
+  desk_->report("the connection to the speech service was lost");
+  // A service that takes connections and drops them at once is about to start or to end.
+  if (!proven_) rest();
+}
+
+void SpeechService::Clerk::cancel() {
+  desk_->cut = false;
+  if (!std::exchange(speaking_, false)) return;
+  const auto outcome = call([this] { return connection_.cancel(); });
+  if (incharge() && outcome == ServiceConnection::Outcome::lost) lose();
+}
+
+void SpeechService::Clerk::saynext() {
+  std::string text = std::move(desk_->texts.front());
+  desk_->texts.pop_front();
+  const unsigned interrupts = desk_->interrupts;
+  const auto outcome = call([&] { return connection_.say(text); });
+  if (!incharge()) return;
+  if (outcome == ServiceConnection::Outcome::lost) {
+    if (interrupts == desk_->interrupts) desk_->texts.push_front(std::move(text));
+    lose();
+    return;
+  }
+  if (outcome == ServiceConnection::Outcome::refused) {
+    desk_->report("the speech service refused a text");
+    return;
+  }
+  speaking_ = proven_ = maystart_ = true;
+  desk_->limit = patience;
+  desk_->reported = false;
+}
+
+SpeechService::SpeechService(SpeechLog log) : desk_(std::make_shared<Desk>()) {
+  desk_->log = std::move(log);
+  const std::lock_guard guard(desk_->mutex);
+  desk_->appoint(desk_);
+}
+
+SpeechService::~SpeechService() {
+  std::unique_lock lock(desk_->mutex);
+  const unsigned last = desk_->incharge++;
+  desk_->wake.notify_all();
+  desk_->wake.wait_for(lock, farewell, [&] { return desk_->departed >= last; });
+  if (desk_->line != -1) shutdown(desk_->line, SHUT_RDWR);
+}
+
+void SpeechService::saystring(std::string_view text) {
+  std::string plain = plaintext(text);
+  if (plain.empty()) return;
+  const std::lock_guard guard(desk_->mutex);
+  desk_->checkhung(desk_);
+  if (desk_->texts.size() == longestqueue) desk_->texts.pop_front();
+  desk_->texts.push_back(std::move(plain));
+  desk_->wake.notify_all();
+}
+
+void SpeechService::interrupt() {
+  const std::lock_guard guard(desk_->mutex);
+  desk_->checkhung(desk_);
+  desk_->texts.clear();
+  desk_->cut = true;
+  ++desk_->interrupts;
+  desk_->wake.notify_all();
+}
+
+std::unique_ptr<JawsApi> createspeechservice(SpeechLog log) {
+  if (!servicepresent()) throw PlatformError("there is no speech service");
+  struct sigaction broken {};
+  sigaction(SIGPIPE, nullptr, &broken);
+  if (broken.sa_handler == SIG_DFL) std::signal(SIGPIPE, SIG_IGN);
+  try {
+    return std::make_unique<SpeechService>(std::move(log));
+  } catch (const std::system_error& error) {
+    throw PlatformError(std::string("the speech service cannot be used: ") + error.what());
+  }
+}
+
+}  // namespace duskmarch
