@@ -13,6 +13,7 @@
 #include "audio/musicstate.h"
 #include "platform/desktop.h"
 #include "values/crashtrace.h"
+#include "values/filelookup.h"
 #include "values/number.h"
 #include "values/saidlines.h"
 
@@ -151,8 +152,9 @@ struct Game {
 
   // Sound.
   std::unique_ptr<SoundDevice> dsound;
-  int maxbuffer = 0;                                     // the highest buffer
-  int nextbuffer = 0;                                    // the rotation: 2 to maxbuffer
+  int maxbuffer = 0;   // the highest buffer
+  int nextbuffer = 0;  // the rotation: 2 to maxbuffer
+  FileFinder soundfinder;
   std::array<std::string, soundbuffercount> bufferfile;  // what each buffer holds
   std::array<double, 630> sintable{};
   std::array<double, 630> costable{};

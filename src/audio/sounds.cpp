@@ -84,7 +84,7 @@ void setsound(Game& game, int buffer, std::string& name) {
   logged(game, "setsound", [&] {
     name = std::string(trim(name));
     if (name.empty()) return;
-    const auto file = findfile(game.programfolder, name);
+    const auto file = game.soundfinder.find(game.programfolder, name);
     if (!file || std::filesystem::is_directory(*file)) {
       logline(game.programfolder, "File is missing: " + game.programfolder.string() + name);
       return;

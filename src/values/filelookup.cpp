@@ -43,6 +43,14 @@ std::optional<fs::path> findfile(const fs::path& folder, std::string_view name) 
   return found;
 }
 
+std::optional<fs::path> FileFinder::find(const fs::path& folder, std::string_view name) {
+  const auto known = found_.find(name);
+  if (known != found_.end() && present(known->second)) return known->second;
+  std::optional<fs::path> found = findfile(folder, name);
+  if (found) found_.insert_or_assign(std::string(name), *found);
+  return found;
+}
+
 std::string tidyname(std::string_view name) {
   const std::size_t start = std::min(name.find_first_not_of("/\\"), name.size());
   std::string tidy(name.substr(start));

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
+#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -12,6 +14,17 @@ namespace duskmarch {
 // "sounds/menu/SAPI.wav". A name that matches exactly wins.
 std::optional<std::filesystem::path> findfile(const std::filesystem::path& folder,
                                               std::string_view name);
+// findfile() for names that are asked for again and again: remembers where each was found, and
+// looks anew for what is no longer there.
+class FileFinder {
+ public:
+  std::optional<std::filesystem::path> find(const std::filesystem::path& folder,
+                                            std::string_view name);
+
+ private:
+  std::map<std::string, std::filesystem::path, std::less<>> found_;
+};
+
 // `name` without leading separators and with "/" between its parts, letters as they are.
 std::string tidyname(std::string_view name);
 
