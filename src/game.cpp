@@ -1,14 +1,15 @@
 #include "game.h"
 
-#include <ranges>
-
 namespace duskmarch {
 
 std::string SummaryText::text() const {
+  std::size_t size = 0;
+  for (const std::string& line : lines) size += line.size() + 2;
   std::string text;
-  for (const std::string& line : lines | std::views::reverse) {
-    if (&line != &lines.back()) text += "\r\n";
-    text += line;
+  text.reserve(size);
+  for (auto line = lines.rbegin(); line != lines.rend(); ++line) {
+    if (line != lines.rbegin()) text += "\r\n";
+    text += *line;
   }
   return text;
 }
