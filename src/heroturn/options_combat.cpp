@@ -11,44 +11,6 @@
 
 namespace duskmarch {
 
-namespace {
-
-void exchanged(Mob& tiring, Mob& other) {
-  tiring.fight -= 1;
-  tiring.rested = 0;
-  other.rested = 0;
-}
-
-std::string blow(Mob& winner, Mob& loser, std::int64_t damage) {
-  loser.health -= damage;
-  exchanged(winner, loser);
-  std::string report = sentence({"  ", loser.mobname, " loses ", std::to_string(damage)});
-  if (conscious(loser)) return report + " health.  ";
-  winner.target = 0;
-  if (winner.action == tag::fight) winner.action.clear();
-  return report + " health and falls to the floor unconscious.  ";
-}
-
-std::string exchangeblows(Mob& attacker, Mob& defender, const FightValues& values) {
-  const Hundredths advantage = values.attacker - values.defender;
-  const std::int64_t damage = (Hundredths::whole(4) * advantage).truncated();
-  std::string report;
-  if (damage > 0) {
-    report = blow(attacker, defender, damage);
-    if (!conscious(defender)) creditknockout(attacker);
-  } else if (damage < 0) {
-    report = blow(defender, attacker, -damage);
-  } else if (values.defender != Hundredths{}) {
-    exchanged(attacker, defender);
-    report = "  No damage is dealt.  ";
-  }
-  attacker.fight = std::max(int{attacker.fight}, 0);
-  defender.fight = std::max(int{defender.fight}, 0);
-  return report;
-}
-
-}  // namespace
-
 void option::target(Game& game, Mob& hero, std::string_view name) {
   for (int slot = 1; slot <= game.mobcount; ++slot) {
     const Mob& foe = game.mob(slot);

@@ -66,24 +66,28 @@ void engagedcheck(Game& game, int slot) {
   mob.engaged = held ? 1 : 0;
 }
 
+std::string exchangeblows(Mob& attacker, Mob& defender, const FightValues& values) {
+  const std::int64_t damage = (damagefactor * (values.attacker - values.defender)).truncated();
+  std::string report;
+  if (damage > 0) {
+    report = blow(attacker, defender, damage);
+    if (!conscious(defender) && attacker.aliance == aliance::heroes) attacker.earnedpoints += 1;
+  } else if (damage < 0) {
+    report = blow(defender, attacker, -damage);
+  } else if (values.defender != Hundredths{}) {
+    exchanged(attacker, defender);
+    report = "  No damage is dealt.  ";
+  }
+  endaboveorat0(attacker.fight);
+  endaboveorat0(defender.fight);
+  return report;
+}
+
 std::string meleeexchange(Game& game, int x) {
   Mob& attacker = game.mob(x);
   Mob& defender = game.mob(attacker.target);
   const FightValues values = calcfight(game, x);
-  const std::int64_t damage = (damagefactor * (values.attacker - values.defender)).truncated();
-  std::string report = opening(attacker, defender, values);
-  if (damage > 0) {
-    report += blow(attacker, defender, damage);
-    if (!conscious(defender) && attacker.aliance == aliance::heroes) attacker.earnedpoints += 1;
-  } else if (damage < 0) {
-    report += blow(defender, attacker, -damage);
-  } else if (values.defender != Hundredths{}) {
-    exchanged(attacker, defender);
-    report += "  No damage is dealt.  ";
-  }
-  endaboveorat0(attacker.fight);
-  endaboveorat0(game.mob(attacker.target).fight);
-  return report;
+  return opening(attacker, defender, values) + exchangeblows(attacker, defender, values);
 }
 
 void regainfightingpoints(Game& game) {

@@ -52,7 +52,7 @@ void give(Game& game, int w, std::string_view ability, int uses) {
   if (held == lastslot) return;
   mob.abilitycount += 1;
   // A slot of an earlier list keeps what is not written here.
-  const auto slot = static_cast<std::size_t>(held + 1);
+  const auto slot = static_cast<std::size_t>(held) + 1;
   if (mob.abilities.size() <= slot) mob.abilities.resize(slot + 1);
   mob.abilities[slot].abilityname = ability;
   mob.abilities[slot].abilityuses = uses;

@@ -4,6 +4,7 @@
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -14,25 +15,27 @@ namespace duskmarch {
 
 namespace {
 
-// A box with a text and its buttons; what else it holds goes between them.
+// A text, what it is about, and the buttons.
 class Box : public QDialog {
  public:
   Box(QWidget& parent, std::string_view title, std::string_view text,
       QDialogButtonBox::StandardButtons buttons)
-      : QDialog(&parent), text_(toqt(text)), layout_(this) {
+      : QDialog(&parent), text_(toqt(text).replace(u'&', QStringLiteral("&&"))), layout_(this) {
     setWindowTitle(title.empty() ? QStringLiteral("Duskmarch") : toqt(title));
+    text_.setTextFormat(Qt::PlainText);
     text_.setWordWrap(true);
     text_.setMinimumWidth(400);
     layout_.addWidget(&text_);
     buttons_.setStandardButtons(buttons);
     layout_.addWidget(&buttons_);
+    text_.setBuddy(buttons_.button(QDialogButtonBox::Ok));
     connect(&buttons_, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(&buttons_, &QDialogButtonBox::rejected, this, &QDialog::reject);
   }
 
   void add(QWidget& field) {
     layout_.insertWidget(1, &field);
-    text_.setBuddy(&field);  // so that a screen reader reads the text with the field
+    text_.setBuddy(&field);  // which is how a screen reader reads the text with the field
     field.setFocus();
   }
 
@@ -73,7 +76,8 @@ std::string QtDialogs::input(std::string_view title, std::string_view prompt) {
 
 void QtDialogs::message(std::string_view title, std::string_view text) {
   Box box(window_, title, text, QDialogButtonBox::Ok);
-  box.setAccessibleDescription(toqt(text));  // a reader may take a short label for an ornament
+  // A screen reader does not read a button's text with it, and passes over short texts alone.
+  box.setAccessibleDescription(toqt(text));
   window_.runmodal(box);
 }
 
