@@ -3,6 +3,7 @@
 #include <csignal>
 
 #include "game.h"
+#include "platform/qt/crashhandler.h"
 #include "platform/qt/frontend.h"
 #include "platform/qt/screenreader.h"
 
@@ -12,5 +13,6 @@ int main(int argc, char** argv) {
   const QApplication application(argc, argv);
   duskmarch::FrontEnd frontend;
   duskmarch::Game game(frontend.desktop());
+  const duskmarch::CrashHandler crashhandler(game.trace, frontend.desktop().system.programfolder());
   frontend.run(game);
 }
