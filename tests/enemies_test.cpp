@@ -1,6 +1,7 @@
 // Whom enemies chase, what they may choose, and what becomes of it.
 #include "resolution/enemies.h"
 
+#include "cases.h"
 #include "draws.h"
 #include "ground.h"
 #include "harness.h"
@@ -82,69 +83,18 @@ TEST(Enemies, AGiftedEnemyWalksWithoutEngagingAndPlansEvenDazed) {
   EXPECT_EQ(game.mob(2).action, "[Fight]");
 }
 
-struct Deed {
-  std::string entry;
-  std::string before;
-  std::string line;  // empty: nothing is told, and no use spent
-  std::string after;
-};
-
-const std::vector<Deed> deeds{
-    {"[Kick East]", "Vesper 3,2 20 4 plans[Fight] | Nora 3,2 3 4 | Jessie 2,2 9 5",
-     "Jessie jump kicked to the East, knocking Nora back and dazing him.  Nora suffered 5 damage "
-     "and was knocked unconscious.",
-     "Vesper 3,2 20 4 plans[Fight] | Nora 4,2 -2 4 [Dazed][Dazed] | Jessie 3,2 9 5"},
-    // Against the edge of the map the kicked hero stays.
-    {"[Kick North]", "Vesper 2,1 20 4 | Jessie 2,2 9 5",
-     "Jessie jump kicked to the North, knocking Vesper back and dazing her.  Vesper suffered 5 "
-     "damage.",
-     "Vesper 2,1 15 4 [Dazed][Dazed] | Jessie 2,1 9 5"},
-    {"[Kick West]", "Vesper 2,1 20 4 | Jessie 2,2 9 5",
-     "Jessie jump kicked to the West, but missed his target.", "Vesper 2,1 20 4 | Jessie 1,2 9 5"},
-    {"[Throw Vesper South]",
-     "Vesper 2,2 20 4 [Pinned][Netted][Pinned] | Nora 2,3 20 4 | Bly 2,3 20 4 | Al 2,3 9 1 | "
-     "Jessie 2,2 9 5",
-     "Jessie picks up Vesper and throws her South.  Nora and Bly was knocked over as Vesper came "
-     "crashing down.",
-     "Vesper 2,3 20 4 [Netted][Dazed][Dazed] | Nora 2,3 20 4 [Dazed][Dazed] | "
-     "Bly 2,3 20 4 [Dazed][Dazed] | Al 2,3 9 1 | Jessie 2,2 9 5"},
-    {"[Throw Vesper South]", "Vesper 2,1 20 4 | Jessie 2,2 9 5", "",
-     "Vesper 2,1 20 4 | Jessie 2,2 9 5"},
-    {"[Throw table West]",
-     "Vesper 1,2 20 4 | Nora 1,2 6 4 | Jessie 2,2 9 5 | Table 2,2 1 | Table 2,2 1",
-     "Jessie picks up a table and throws it West.  Vesper and Nora was knocked over as the table "
-     "came crashing down.  Nora was knocked unconscious.  The table has splintered into scraps of "
-     "wood.",
-     "Vesper 1,2 14 4 [Dazed][Dazed] | Nora 1,2 0 4 [Dazed][Dazed] | Jessie 2,2 9 5 | "
-     "Table 2,2 1 | Table 1,2 0"},
-    {"[Throw table West]", "Vesper 1,2 20 4 | Jessie 2,2 9 5 | Table 2,2 0", "",
-     "Vesper 1,2 20 4 | Jessie 2,2 9 5 | Table 2,2 0"},
-    // The first hero in line alone.
-    {"[Throw chair West]",
-     "Vesper 1,2 20 4 | Nora 2,2 4 4 plans[Fight] | Bly 2,2 9 4 | Jessie 4,2 9 5 | Chair 4,2 2",
-     "Jessie grabs a chair and hurls it West.  Nora was hit by it and suffered 4 damage.  Nora was "
-     "knocked unconscious by the impact.",
-     "Vesper 1,2 20 4 | Nora 2,2 0 4 [Dazed][Dazed] | Bly 2,2 9 4 | Jessie 4,2 9 5 | Chair 2,2 1"},
-    {"[Throw chair South]", "Vesper 2,1 20 4 | Jessie 2,2 9 5 | Chair 2,2 1",
-     "Jessie grabs a chair and hurls it South.", "Vesper 2,1 20 4 | Jessie 2,2 9 5 | Chair 2,2 1"},
-    {"[Throw chair North]", "Vesper 2,1 20 4 | Jessie 2,2 9 5 | Chair 2,1 1", "",
-     "Vesper 2,1 20 4 | Jessie 2,2 9 5 | Chair 2,1 1"},
-    {"[Fight]", "Vesper 2,2 20 4 | Jessie 2,2 9 5", "", "Vesper 2,2 20 4 | Jessie 2,2 9 5"},
-    {"[Kick Upwards]", "Vesper 2,1 20 4 | Jessie 2,2 9 5", "", "Vesper 2,1 20 4 | Jessie 2,2 9 5"},
-};
-
 TEST(Enemies, TheChosenEntryIsPerformed) {
-  for (const Deed& c : deeds) {
+  for (const Case& c : readcases("enemies.txt")) {
     Player player;
     Game& game = player.game();
     arrangewithjessie(game, c.before);
     const int jessie = game.mobcount;
-    game.mob(jessie).action = c.entry;
+    game.mob(jessie).action = c.what;
     doenemyoption(game, jessie, game.mob(jessie).action);
-    EXPECT_EQ(game.list1.empty() ? "" : game.list1.front(), c.line) << c.entry << c.before;
-    EXPECT_EQ(described(game), c.after) << c.entry << c.before;
-    const Ability& used = game.mob(jessie).abilities[c.entry.starts_with("[Kick") ? 2 : 1];
-    EXPECT_EQ(used.abilityuses, c.line.empty() ? 2 : 1) << c.entry << c.before;
+    EXPECT_EQ(game.list1.empty() ? "" : game.list1.front(), c.told) << c.what << c.before;
+    EXPECT_EQ(described(game), c.after) << c.what << c.before;
+    const Ability& used = game.mob(jessie).abilities[c.what.starts_with("[Kick") ? 2 : 1];
+    EXPECT_EQ(used.abilityuses, c.told.empty() ? 2 : 1) << c.what << c.before;
   }
 }
 

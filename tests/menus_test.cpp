@@ -7,9 +7,7 @@ namespace {
 
 TEST(Cycleme, MovesAndKeepsToTheList) {
   struct Step {
-    int position;
-    int keycode;
-    int entries;
+    int position, keycode, entries;
     Ends ends;
     int arrives;
   };
@@ -52,18 +50,6 @@ TEST(OptionsMenu, ExplainsAbilitiesAndNothingElse) {
                            "No more options this turn.  Press N to cycle to another character, or "
                            "press E to end your turn."}});
   }
-}
-
-TEST(OptionsMenu, EnterCutsSpeechOffAndPerforms) {
-  Player player;
-  perform(player, 2);
-  player.press(key::escape);  // leaves the story page
-  player.press(key::space);
-  ASSERT_EQ(player.game().list2.front(), "Move");
-  player.press(key::down);
-  player.answer("n");
-  EXPECT_EQ(player.press(key::enter).at(1), "voice\t");
-  EXPECT_EQ(player.game().mob(1).hasmoved, 1);
 }
 
 }  // namespace

@@ -12,26 +12,26 @@ namespace {
 
 namespace fs = std::filesystem;
 
-using Lines = std::vector<std::string>;
+// The lines of a file, each ended by a bar.
+const std::string empty = "|| 0 | 0 | 0 | 0 |" + std::string(22, '|');
+const std::string unrecruited = "||" + empty + empty + empty;
+// Line 3 is the hero's name, line 14 the ability count, line 33 the upgrade points.
+const std::string campaign =
+    " 3 | Rosa|Owl, the| 2 | 1 | 1 | 9 | 13 | 1 | 15 |||[x]| 1 |Net| 2 |-3 || 2 | 2 | 4 | 5 | 8 "
+    "| 2 | 1 | 4 | 8 | 0 | 1 | 0 | 0 |$N | 17 |" +
+    empty + empty;
 
-std::string joined(const Lines& lines, std::string_view ending = "\r\n") {
+std::string filed(std::string_view lines, std::string_view ending = "\r\n") {
   std::string text;
-  for (const std::string& line : lines) text.append(line).append(ending);
+  for (const char c : lines) c == '|' ? text += ending : text += c;
   return text;
 }
 
-Lines operator+(Lines lines, const Lines& more) {
-  lines.insert(lines.end(), more.begin(), more.end());
-  return lines;
+std::string replaced(std::string lines, int line, std::string_view text) {
+  std::size_t start = 0;
+  while (--line > 0) start = lines.find('|', start) + 1;
+  return lines.replace(start, lines.find('|', start) - start, text);
 }
-
-const Lines empty = Lines{"", "", " 0 ", " 0 ", " 0 ", " 0 "} + Lines(22);
-// Line 3 is the hero's name, line 14 the ability count, line 33 the upgrade points.
-const Lines hero = {"Owl, the", " 2 ", " 1 ", " 1 ", " 9 ", " 13 ", " 1 ", " 15 ",
-                    "",         "",    "[x]", " 1 ", "Net", " 2 ",  "-3 ", "",
-                    " 2 ",      " 2 ", " 4 ", " 5 ", " 8 ", " 2 ",  " 1 ", " 4 ",
-                    " 8 ",      " 0 ", " 1 ", " 0 ", " 0 ", "$N ",  " 17 "};
-const Lines campaign = Lines{" 3 ", " Rosa"} + hero + empty + empty;
 
 class SavedGame : public testing::Test {
  protected:
@@ -58,18 +58,16 @@ TEST_F(SavedGame, HoldsEveryHeroLineByLine) {
   perform(player, 1);
   recruit(player, 1, "Owl", {0, 2, 1});
   EXPECT_TRUE(save().ends_with("\t0\t0\t0\tsounds/game/saved.wav"));
-  const Lines abilities = {"Shield", " 1 ",  "",    "Heal", " 1 ",  "",    "Hook", " 1 ",
-                           "",       "Dive", " 2 ", "",     "Kick", " 1 ", ""};
-  const Lines owl = Lines{"Owl", " 1 ", " 1 ", " 1 ", " 8 ", " 8 ", "", "", "", "", "", " 5 "} +
-                    abilities + Lines{"", "", "", " 4 ", " 4 ", " 0 "} + Lines(10);
-  EXPECT_EQ(content(), joined(Lines(2) + owl + empty + empty));
+  EXPECT_EQ(content(), filed("||Owl| 1 | 1 | 1 | 8 | 8 |||||| 5 |Shield| 1 ||Heal| 1 ||Hook| 1 ||"
+                             "Dive| 2 ||Kick| 1 ||||| 4 | 4 | 0 |||||||||||" +
+                             empty + empty));
 }
 
 TEST_F(SavedGame, LoadedAndSavedAgainIsTheSameBytes) {
   for (const std::string_view ending : {"\r\n", "\n"}) {
-    EXPECT_EQ(load(joined(campaign, ending)), loaded);
+    EXPECT_EQ(load(filed(campaign, ending)), loaded);
     save();
-    EXPECT_EQ(content(), joined(campaign));
+    EXPECT_EQ(content(), filed(campaign));
   }
 }
 
@@ -79,7 +77,7 @@ TEST_F(SavedGame, LoadingLeadsToTheHideout) {
   player.press(key::escape, modifier::shift);
   expectspoken(player, {{key::f9, "File not found."}});
   EXPECT_TRUE(player.game().missionunderway);
-  player.folder().write("Game.SAV", joined(campaign));
+  player.folder().write("Game.SAV", filed(campaign));
   expectspoken(player, {{key::f9, "Game loaded.", modifier::alt},
                         {key::enter, "Owl, the has 17 upgrade points.  Press Enter to spend them."},
                         {key::up, "Begin mission 4."}});
@@ -92,7 +90,7 @@ TEST_F(SavedGame, AnEarlierOneIsKept) {
   save();
   EXPECT_EQ(content("game.sav.bak"), "older");
   const std::string saved = content();
-  EXPECT_EQ(saved, joined(Lines(2) + empty + empty + empty));
+  EXPECT_EQ(saved, filed(unrecruited));
   fs::remove(file("game.sav.bak"));
   fs::create_directory(file("game.sav.bak"));
   EXPECT_EQ(save(), saveerror);
@@ -112,7 +110,7 @@ TEST_F(SavedGame, WhatIsNoFileIsAnError) {
 }
 
 TEST_F(SavedGame, AFullDiskIsNoticed) {
-  load(joined(campaign));
+  load(filed(campaign));
   signal(SIGXFSZ, SIG_IGN);
   rlimit before{};
   getrlimit(RLIMIT_FSIZE, &before);
@@ -121,23 +119,21 @@ TEST_F(SavedGame, AFullDiskIsNoticed) {
   const std::string event = save();
   setrlimit(RLIMIT_FSIZE, &before);
   EXPECT_EQ(event, saveerror);
-  EXPECT_EQ(content(), joined(campaign).substr(0, 20));
-  EXPECT_EQ(content("game.sav.bak"), joined(campaign));
+  EXPECT_EQ(content(), filed(campaign).substr(0, 20));
+  EXPECT_EQ(content("game.sav.bak"), filed(campaign));
 }
 
 TEST_F(SavedGame, EveryLineMustBeThere) {
-  const std::string whole = joined(campaign);
-  for (std::size_t end = 0; end < whole.size(); end = whole.find('\n', end) + 1) {
-    EXPECT_EQ(load(whole.substr(0, end)), loaderror) << end;
+  for (std::size_t end = 0; end < campaign.size(); end = campaign.find('|', end) + 1) {
+    EXPECT_EQ(load(filed(campaign.substr(0, end))), loaderror) << end;
   }
-  EXPECT_EQ(load(whole + "more"), loaded);
+  EXPECT_EQ(load(filed(campaign + "more")), loaded);
 }
 
 TEST_F(SavedGame, NumbersKeepTheirRanges) {
   struct Case {
-    std::size_t line;
-    Lines taken;
-    Lines refused;
+    int line;
+    std::vector<std::string> taken, refused;
   };
   const Case cases[] = {
       {1, {"   -1000000000 ", "", "7"}, {"1000000001", "2.5", "two", "+2", "99999999999999999999"}},
@@ -153,18 +149,15 @@ TEST_F(SavedGame, NumbersKeepTheirRanges) {
   for (const Case& numbers : cases) {
     for (const bool good : {true, false}) {
       for (const std::string& text : good ? numbers.taken : numbers.refused) {
-        Lines lines = campaign;
-        lines[numbers.line - 1] = text;
-        EXPECT_EQ(load(joined(lines)), good ? loaded : loaderror) << numbers.line << ": " << text;
+        EXPECT_EQ(load(filed(replaced(campaign, numbers.line, text))), good ? loaded : loaderror)
+            << numbers.line << ": " << text;
       }
     }
   }
 }
 
 TEST_F(SavedGame, WhatWasReadBeforeTheDamageStays) {
-  Lines lines = campaign;
-  lines[13] = " 99 ";  // more abilities than the file has lines
-  EXPECT_EQ(load(joined(lines)), loaderror);
+  EXPECT_EQ(load(filed(replaced(campaign, 14, " 99 "))), loaderror);  // the file ends early
   EXPECT_EQ(player.game().missionnumber, 3);
   EXPECT_EQ(player.game().mob(1).mobname, "Owl, the");
   EXPECT_FALSE(player.game().mob(1).fight.isset());

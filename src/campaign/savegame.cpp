@@ -131,7 +131,7 @@ void savegame(Game& game, std::string_view name) {
     LineWriter lines(file);
     campaignlines(lines, game);
     file.flush();  // a full disk shows here
-    playeffect(game, "\\sounds\\game\\saved.wav");
+    playeffect(game, R"(\sounds\game\saved.wav)");
     file.close();
   } catch (const std::exception&) {
     sayit(game, "Error saving game.");

@@ -26,8 +26,9 @@ struct Chosen {
 
 Chosen readentry(std::string_view entry) {
   const auto space = entry.rfind(' ');
-  if (space == std::string_view::npos || !entry.starts_with('[') || !entry.ends_with(']'))
+  if (space == std::string_view::npos || !entry.starts_with('[') || !entry.ends_with(']')) {
     return {};
+  }
   return {.option = entry.substr(1, space - 1),
           .direction = finddirection(entry.substr(space + 1, entry.size() - space - 2))};
 }

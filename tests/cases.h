@@ -1,0 +1,37 @@
+// Cases from a text file: "what: the ground before" (see ground.h; "what: " may be left out), what
+// is told of it or "-", and the ground after. Lines that begin with # are remarks.
+#pragma once
+
+#include <fstream>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+namespace duskmarch {
+
+struct Case {
+  std::string what;
+  std::string before;
+  std::string told;
+  std::string after;
+};
+
+inline std::vector<Case> readcases(const std::string& file) {
+  std::vector<Case> cases;
+  std::ifstream lines(TEST_FOLDER "/" + file);
+  for (std::string first, told, after; std::getline(lines, first);) {
+    if (first.empty() || first.starts_with('#')) continue;
+    std::getline(lines, told);
+    std::getline(lines, after);
+    const auto colon = first.find(": ");
+    const bool nothing = colon == std::string::npos;
+    cases.push_back({nothing ? "" : first.substr(0, colon),
+                     nothing ? first : first.substr(colon + 2), told == "  -" ? "" : told.substr(2),
+                     after.substr(2)});
+  }
+  EXPECT_FALSE(cases.empty()) << file;
+  return cases;
+}
+
+}  // namespace duskmarch

@@ -1,0 +1,214 @@
+// The game's own voice, as the mixer hears it.
+#include "platform/voice/espeakvoice.h"
+
+#include <algorithm>
+#include <atomic>
+#include <cmath>
+
+#include <gtest/gtest.h>
+
+#include "fakeservice.h"
+#include "patience.h"
+
+namespace duskmarch {
+namespace {
+
+constexpr std::size_t blockframes = 512;
+constexpr const char* longtext =
+    "The alley is dark and wet, and somewhere above the rooftops a siren wails. Three men wait at "
+    "the far end of it, and none of them has seen you yet.";
+
+class EspeakVoiceTest : public testing::Test {
+ protected:
+  // What the next block sounds like; both sides must be the same.
+  std::vector<float> block() {
+    std::vector<float> mixed(2 * blockframes);
+    stream_->mix(mixed.data(), blockframes);
+    std::vector<float> left;
+    for (std::size_t i = 0; i < mixed.size(); i += 2) {
+      EXPECT_EQ(mixed[i], mixed[i + 1]);
+      left.push_back(mixed[i]);
+    }
+    return left;
+  }
+  static float peak(const std::vector<float>& samples) {
+    float loudest = 0;
+    for (const float sample : samples) loudest = std::max(loudest, std::abs(sample));
+    return loudest;
+  }
+  void waitforsound() {
+    ASSERT_TRUE(eventually([&] { return peak(block()) > 0.1F; }));
+  }
+  // Everything from the first sample queued to the last.
+  std::vector<float> listen() {
+    std::vector<float> heard;
+    EXPECT_TRUE(eventually([&] {
+      const bool last = voice_.idle();
+      while (!stream_->drained()) {
+        const auto next = block();
+        heard.insert(heard.end(), next.begin(), next.end());
+      }
+      return last;
+    }));
+    return heard;
+  }
+  std::size_t length(std::string_view text) {
+    voice_.speak(text);
+    return listen().size();
+  }
+
+  const std::shared_ptr<SpeechStream> stream_ = std::make_shared<SpeechStream>();
+  EspeakVoice voice_{stream_, [](std::string_view line) { ADD_FAILURE() << line; }};
+};
+
+TEST_F(EspeakVoiceTest, BeginsAtOnceAndAtAGoodLevel) {
+  voice_.speak("Create a character");  // from the synthesizer it begins with 39 ms of silence
+  const auto heard = listen();
+  EXPECT_GT(peak({heard.begin(), heard.begin() + mixrate / 200}), 0.0005F);
+  EXPECT_GT(peak(heard), 0.3F);
+  EXPECT_LT(peak(heard), 0.71F);
+}
+
+TEST_F(EspeakVoiceTest, LosesNothingAtTheEnd) {
+  std::size_t made = 0;
+  Espeak::instance().say(longtext, wordsaminute(2), [&](auto samples) {
+    made += samples.size();
+    return true;
+  });
+  const double expected = static_cast<double>(made) * mixrate / Espeak::instance().samplerate();
+  EXPECT_NEAR(static_cast<double>(length(longtext)), expected, 0.01 * expected + blockframes);
+}
+
+TEST_F(EspeakVoiceTest, AnEmptyTextSilencesAtOnce) {
+  voice_.speak(longtext);
+  voice_.speakafter(longtext);
+  waitforsound();
+  voice_.speak("");
+  const auto after = block();
+  EXPECT_EQ(peak({after.begin() + mixrate / 400, after.end()}), 0);
+  EXPECT_EQ(length(""), 0U);
+}
+
+TEST_F(EspeakVoiceTest, TheLatestTextWinsAndIsWhole) {
+  const auto alone = static_cast<double>(length("Stop."));
+  voice_.speak(longtext);
+  waitforsound();
+  voice_.speakafter(longtext);
+  for (int key = 0; key < 5000; ++key) voice_.speak(longtext);
+  voice_.speak("Stop.");
+  EXPECT_NEAR(static_cast<double>(listen().size()), alone, 0.02 * alone + blockframes);
+}
+
+TEST_F(EspeakVoiceTest, TextsAfterFollowInOrderWithAPause) {
+  const auto shortlength = static_cast<double>(length("a"));
+  const auto longlength = static_cast<double>(length(longtext));
+  voice_.speak("a");
+  voice_.speakafter("");
+  voice_.speakafter(longtext);
+  const auto heard = listen();
+  const double pause = mixrate / 10;
+  EXPECT_NEAR(static_cast<double>(heard.size()), shortlength + pause + longlength,
+              0.01 * longlength + 3 * blockframes);
+  const std::vector<float> silence(mixrate / 11);
+  const auto gap = std::search(heard.begin(), heard.end(), silence.begin(), silence.end());
+  EXPECT_NEAR(static_cast<double>(gap - heard.begin()), shortlength, 2 * blockframes);
+}
+
+TEST_F(EspeakVoiceTest, EachRateIsFasterThanTheOneBefore) {
+  std::size_t before = length(longtext);
+  voice_.setrate(1);
+  EXPECT_GT(length(longtext), before);
+  for (int rate = 3; rate <= 10; ++rate) {
+    voice_.setrate(rate);
+    const std::size_t now = length(longtext);
+    EXPECT_LT(now, before) << "at rate " << rate;
+    before = now;
+  }
+}
+
+TEST_F(EspeakVoiceTest, SurvivesStrangeTexts) {
+  std::string every;
+  for (int i = 0; i < 3 * 256; ++i) every += static_cast<char>(i);
+  for (const auto& text : {every, std::string(3, '\0'),
+                           std::string("<speak>\x01"
+                                       "200S</speak>")}) {
+    voice_.speak(text);
+    listen();
+  }
+  EXPECT_GT(length("<b>bold</b>"), length("bold"));  // markup is text like any other
+}
+
+TEST_F(EspeakVoiceTest, AHugeTextCanBeCutOff) {
+  std::string huge;
+  while (huge.size() < 5'000'000) huge += longtext;
+  const auto alone = static_cast<double>(length("Stop."));
+  voice_.speak(huge);
+  waitforsound();
+  EXPECT_NEAR(static_cast<double>(length("Stop.")), alone, 0.02 * alone + blockframes);
+  voice_.speak(huge);  // and the voice can end in the middle of it
+}
+
+TEST_F(EspeakVoiceTest, IsHeardOnAnotherThread) {
+  std::atomic<bool> playing = true;
+  std::thread audio([&] {
+    while (playing) block();
+  });
+  for (int key = 0; key < 2000; ++key) voice_.speak(longtext);
+  voice_.speak("Stop.");
+  EXPECT_TRUE(eventually([&] { return voice_.idle() && stream_->drained(); }));
+  playing = false;
+  audio.join();
+}
+
+TEST_F(EspeakVoiceTest, ALaterVoiceTakesOver) {
+  voice_.speak(longtext);
+  waitforsound();
+  auto earlier = std::make_unique<EspeakVoice>(stream_, [](std::string_view) {});
+  earlier->speak(longtext);
+  const auto alone = static_cast<double>(length("Stop."));
+  earlier.reset();
+  EXPECT_NEAR(static_cast<double>(length("Stop.")), alone, 0.02 * alone + blockframes);
+}
+
+TEST(SpeechStreamTest, KeepsHalfASecondAheadOfWhatIsStillWanted) {
+  SpeechStream stream;
+  const std::vector<float> second(mixrate, 0.5F);
+  const auto old = stream.cut();
+  EXPECT_EQ(stream.offer(old, second), 24000U);
+  EXPECT_EQ(stream.offer(old, second), 0U);
+  const auto next = stream.cut();
+  EXPECT_EQ(stream.offer(old, second), std::nullopt);
+  EXPECT_EQ(stream.offer(next, std::vector<float>(100, 0.25F)), 100U);
+  std::vector<float> mixed(2 * 200, 0.125F);
+  stream.mix(mixed.data(), 200);
+  EXPECT_EQ(mixed[199], 0.375F);
+  EXPECT_EQ(mixed[200], 0.125F);
+  EXPECT_TRUE(stream.drained());
+}
+
+TEST(SpeechStreamTest, DoesNotStopDead) {
+  SpeechStream stream;
+  const auto turn = stream.cut();
+  stream.offer(turn, std::vector<float>(100, 0.5F));
+  std::vector<float> mixed(2 * 50);
+  stream.mix(mixed.data(), 50);
+  stream.cut();
+  std::vector<float> after(2 * 400);
+  stream.mix(after.data(), 400);
+  EXPECT_NEAR(after[0], 0.45, 1e-6);
+  EXPECT_NEAR(after[2 * 10], 0.5 * std::pow(0.9, 11), 1e-6);
+  EXPECT_EQ(after[2 * 200], 0);
+}
+
+// The synthesizer's library would ask a sound server; one that is frozen takes the connection and
+// never answers.
+TEST(EspeakTest, NeedsNoSoundServer) {
+  FakeService frozen;
+  frozen.freeze(true);
+  frozen.start();
+  setenv("PULSE_SERVER", frozen.path().c_str(), 1);
+  EXPECT_GT(Espeak::instance().samplerate(), 0);
+}
+
+}  // namespace
+}  // namespace duskmarch

@@ -1,0 +1,129 @@
+// A speech service that notes what it is asked, and can be killed and frozen.
+#pragma once
+
+#include <atomic>
+#include <cstdlib>
+#include <filesystem>
+#include <list>
+#include <mutex>
+#include <string>
+#include <thread>
+#include <utility>
+#include <vector>
+
+#include <poll.h>
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+namespace duskmarch {
+
+class FakeService {
+ public:
+  FakeService() {
+    std::string pattern = std::filesystem::temp_directory_path() / "duskmarch-XXXXXX";
+    folder_ = mkdtemp(pattern.data());
+    setenv("SPEECHD_ADDRESS", ("unix_socket:" + path()).c_str(), 1);
+    setenv("SPEECHD_CMD", "/nonexistent", 1);  // never the real one
+  }
+  ~FakeService() {
+    kill();
+    std::filesystem::remove_all(folder_);
+  }
+
+  void start() {
+    listener_ = socket(AF_UNIX, SOCK_STREAM, 0);
+    sockaddr_un address{AF_UNIX, {}};
+    path().copy(address.sun_path, sizeof address.sun_path - 1);
+    bind(listener_, reinterpret_cast<const sockaddr*>(&address), sizeof address);
+    listen(listener_, 20);
+    alive_ = true;
+    thread_ = std::thread([this] { serve(); });
+  }
+  void kill() {
+    alive_ = false;
+    if (!thread_.joinable()) return;
+    thread_.join();
+    close(listener_);
+    for (const Client& client : clients_) close(client.socket);
+    clients_.clear();
+    std::filesystem::remove(path());
+  }
+  void freeze(bool frozen) { frozen_ = frozen; }
+  std::string path() const { return folder_ / "speechd.sock"; }
+
+  // Texts, and "CANCEL SELF" where it was told so.
+  std::vector<std::string> asked() {
+    const std::lock_guard guard(mutex_);
+    return asked_;
+  }
+
+ private:
+  struct Client {
+    int socket = -1;
+    bool speaking = false;
+    std::string text;
+    std::string unread;
+  };
+
+  void serve() {
+    while (alive_) {
+      std::vector<pollfd> polled{{listener_, POLLIN, 0}};
+      for (const Client& client : clients_) polled.push_back({client.socket, POLLIN, 0});
+      poll(polled.data(), polled.size(), 5);
+      if (frozen_) continue;
+      auto at = polled.begin();
+      if (at++->revents != 0)
+        clients_.push_back({accept(listener_, nullptr, nullptr), false, "", ""});
+      for (auto client = clients_.begin(); at != polled.end(); ++at) {
+        const bool gone = at->revents != 0 && !read(*client);
+        if (gone) close(client->socket);
+        client = gone ? clients_.erase(client) : std::next(client);
+      }
+    }
+  }
+  bool read(Client& client) {
+    char bytes[4096];
+    const ssize_t count = recv(client.socket, bytes, sizeof bytes, 0);
+    if (count <= 0) return false;
+    client.unread.append(bytes, static_cast<std::size_t>(count));
+    for (std::size_t end; (end = client.unread.find("\r\n")) != std::string::npos;) {
+      answer(client, client.unread.substr(0, end));
+      client.unread.erase(0, end + 2);
+    }
+    return true;
+  }
+  void answer(Client& client, const std::string& line) {
+    std::string reply = "200 OK\r\n";
+    if (client.speaking && line != ".") {
+      client.text += client.text.empty() ? line : "\n" + line;
+      return;
+    }
+    if (client.speaking) {
+      client.speaking = false;
+      note(std::exchange(client.text, ""));
+      reply = "225-1\r\n225 OK MESSAGE QUEUED\r\n";
+    } else if (line == "SPEAK") {
+      client.speaking = true;
+      reply = "230 OK RECEIVING DATA\r\n";
+    } else if (line.starts_with("CANCEL")) {
+      note(line);
+    }
+    send(client.socket, reply.data(), reply.size(), MSG_NOSIGNAL);
+  }
+  void note(std::string what) {
+    const std::lock_guard guard(mutex_);
+    asked_.push_back(std::move(what));
+  }
+
+  std::filesystem::path folder_;
+  int listener_ = -1;
+  std::thread thread_;
+  std::list<Client> clients_;
+  std::atomic<bool> alive_ = false;
+  std::atomic<bool> frozen_ = false;
+  std::mutex mutex_;
+  std::vector<std::string> asked_;
+};
+
+}  // namespace duskmarch

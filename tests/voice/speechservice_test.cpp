@@ -1,0 +1,111 @@
+// Mode 3's speech service: what it is told, and how it is survived.
+#include <gtest/gtest.h>
+
+#include "fakeservice.h"
+#include "patience.h"
+#include "platform/voice/engines.h"
+
+namespace duskmarch {
+namespace {
+
+using Texts = std::vector<std::string>;
+
+class SpeechServiceTest : public testing::Test {
+ protected:
+  SpeechServiceTest() {
+    service_.start();
+    jaws_ = createspeechservice([this](std::string_view line) {
+      const std::lock_guard guard(mutex_);
+      logged_.emplace_back(line);
+    });
+  }
+  Texts logged() {
+    const std::lock_guard guard(mutex_);
+    return logged_;
+  }
+  bool asked(const Texts& texts) {
+    return eventually([&] { return service_.asked() == texts; });
+  }
+
+  FakeService service_;
+  std::mutex mutex_;
+  Texts logged_;
+  std::unique_ptr<JawsApi> jaws_;
+};
+
+TEST_F(SpeechServiceTest, SaysOneTextAfterTheOther) {
+  for (const char* text : {"One.", "", "two\x01three", "."}) jaws_->saystring(text);
+  EXPECT_TRUE(asked({"One.", "two three", ".."}));  // a line's first dot is doubled on the way
+  EXPECT_EQ(logged(), Texts());
+}
+
+TEST_F(SpeechServiceTest, AKeyCutsOffOnlyWhatIsBeingSaid) {
+  jaws_->interrupt();
+  jaws_->saystring("One.");
+  EXPECT_TRUE(asked({"One."}));
+  jaws_->interrupt();
+  jaws_->interrupt();
+  jaws_->saystring("Two.");
+  EXPECT_TRUE(asked({"One.", "CANCEL SELF", "Two."}));
+}
+
+TEST_F(SpeechServiceTest, SaysTheLatestTextWhenTheServiceIsBack) {
+  jaws_->saystring("One.");
+  EXPECT_TRUE(asked({"One."}));
+  service_.kill();
+  jaws_->saystring("Two.");
+  jaws_->interrupt();
+  jaws_->saystring("Three.");
+  EXPECT_TRUE(eventually([&] { return !logged().empty(); }));
+  service_.start();
+  EXPECT_TRUE(asked({"One.", "Three."}));
+  EXPECT_EQ(logged(), Texts({"the connection to the speech service was lost"}));
+}
+
+TEST_F(SpeechServiceTest, AFrozenServiceIsReportedAndSpeaksAgain) {
+  jaws_->saystring("One.");
+  EXPECT_TRUE(asked({"One."}));
+  service_.freeze(true);
+  EXPECT_TRUE(eventually([&] {
+    jaws_->interrupt();
+    jaws_->saystring("Two.");
+    return !logged().empty();
+  }));
+  service_.freeze(false);
+  EXPECT_TRUE(eventually([&] { return service_.asked().back() == "Two."; }));
+  EXPECT_EQ(logged(), Texts({"the speech service does not answer"}));
+}
+
+TEST_F(SpeechServiceTest, AThreadThatHangsWhileConnectingIsReplaced) {
+  service_.freeze(true);
+  EXPECT_TRUE(eventually([&] {
+    jaws_->interrupt();
+    jaws_->saystring("One.");
+    return !logged().empty();
+  }));
+  service_.freeze(false);
+  EXPECT_TRUE(asked({"One."}));
+}
+
+TEST_F(SpeechServiceTest, TheProgramEndsWhileTheServiceIsFrozen) {
+  service_.freeze(true);
+  jaws_->saystring("One.");
+  jaws_.reset();
+}
+
+TEST_F(SpeechServiceTest, ThousandsOfKeysLeaveTheLastText) {
+  for (int key = 0; key < 5000; ++key) {
+    jaws_->interrupt();
+    jaws_->saystring(std::to_string(key));
+  }
+  EXPECT_TRUE(
+      eventually([&] { return !service_.asked().empty() && service_.asked().back() == "4999"; }));
+}
+
+TEST(SpeechServiceMissing, CannotBeCreated) {
+  const FakeService neverstarted;
+  EXPECT_THROW(createspeechservice([](std::string_view) {}), PlatformError);
+}
+
+}  // namespace
+}  // namespace duskmarch
