@@ -103,7 +103,7 @@ class FakeService {
       client.speaking = false;
       note(std::exchange(client.text, ""));
       reply = "225-1\r\n225 OK MESSAGE QUEUED\r\n";
-    } else if (line == "SPEAK") {
+    } else if (line == "speak") {  // as the library writes it
       client.speaking = true;
       reply = "230 OK RECEIVING DATA\r\n";
     } else if (line.starts_with("CANCEL")) {

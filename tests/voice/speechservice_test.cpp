@@ -26,6 +26,13 @@ class SpeechServiceTest : public testing::Test {
   bool asked(const Texts& texts) {
     return eventually([&] { return service_.asked() == texts; });
   }
+  void speakuntillogged(std::string_view text) {
+    EXPECT_TRUE(eventually([&] {
+      jaws_->interrupt();
+      jaws_->saystring(text);
+      return !logged().empty();
+    }));
+  }
 
   FakeService service_;
   std::mutex mutex_;
@@ -66,11 +73,7 @@ TEST_F(SpeechServiceTest, AFrozenServiceIsReportedAndSpeaksAgain) {
   jaws_->saystring("One.");
   EXPECT_TRUE(asked({"One."}));
   service_.freeze(true);
-  EXPECT_TRUE(eventually([&] {
-    jaws_->interrupt();
-    jaws_->saystring("Two.");
-    return !logged().empty();
-  }));
+  speakuntillogged("Two.");
   service_.freeze(false);
   EXPECT_TRUE(eventually([&] { return service_.asked().back() == "Two."; }));
   EXPECT_EQ(logged(), Texts({"the speech service does not answer"}));
@@ -78,18 +81,14 @@ TEST_F(SpeechServiceTest, AFrozenServiceIsReportedAndSpeaksAgain) {
 
 TEST_F(SpeechServiceTest, AThreadThatHangsWhileConnectingIsReplaced) {
   service_.freeze(true);
-  EXPECT_TRUE(eventually([&] {
-    jaws_->interrupt();
-    jaws_->saystring("One.");
-    return !logged().empty();
-  }));
+  speakuntillogged("One.");
   service_.freeze(false);
   EXPECT_TRUE(asked({"One."}));
 }
 
 TEST_F(SpeechServiceTest, TheProgramEndsWhileTheServiceIsFrozen) {
   service_.freeze(true);
-  jaws_->saystring("One.");
+  speakuntillogged("One.");
   jaws_.reset();
 }
 

@@ -4,7 +4,6 @@
 #include <cstddef>
 #include <filesystem>
 #include <memory>
-#include <span>
 #include <vector>
 
 #include <sndfile.h>
