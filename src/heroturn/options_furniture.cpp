@@ -22,12 +22,6 @@ Item* furniturehere(Game& game, const Mob& hero, std::string_view name) {
 }
 
 // It moves to where it hits, and suffers from it.
-void crash(Item& item, Tile tile) {
-  item.itemx = tile.x;
-  item.itemy = tile.y;
-  item.itemhealth -= 1;
-}
-
 bool enemyon(const Mob& mob, Tile tile) {
   return conscious(mob) && mob.aliance == aliance::enemies && at(mob, tile.x, tile.y);
 }

@@ -45,11 +45,6 @@ std::vector<int> heroesat(const Game& game, Tile tile) {
   return heroes;
 }
 
-void place(Item& item, Tile tile) {
-  item.itemx = tile.x;
-  item.itemy = tile.y;
-}
-
 void daze(Mob& hero) {
   addtag(hero.status, tag::dazed, 2);
 }
@@ -77,11 +72,11 @@ void throwhero(Game& game, int t, int hero, const Direction& direction) {
   removeeverytag(thrown.status, tag::pinned);
   daze(thrown);
   place(thrown, keptonthemap(game, landing));
-  const std::string crash =
+  const std::string crashed =
       sentence({" was knocked over as ", thrown.mobname, " came crashing down.  "});
   list1additem(game, sentence({thrower.mobname, " picks up ", thrown.mobname, " and throws ",
                                himorher(thrown.gender), " ", direction.word, ".  ",
-                               joinnames(knockedover, crash)}));
+                               joinnames(knockedover, crashed)}));
 }
 
 void throwtable(Game& game, int t, const Direction& direction) {
@@ -100,8 +95,7 @@ void throwtable(Game& game, int t, const Direction& direction) {
     knockedover.push_back(hero.mobname);
     if (!conscious(hero)) knockedout.push_back(hero.mobname);
   }
-  place(table, keptonthemap(game, landing));
-  table.itemhealth -= 1;
+  crash(table, keptonthemap(game, landing));
   list1additem(
       game,
       sentence(
@@ -155,8 +149,7 @@ void throwchair(Game& game, int t, const Direction& direction) {
     hero.health -= chairdamage;
     daze(hero);
     hero.action.clear();
-    game.item(slot).itemhealth -= 1;
-    place(game.item(slot), tileof(hero));
+    crash(game.item(slot), tileof(hero));
     report += hero.mobname + " was hit by it and suffered 4 damage.  ";
     if (!conscious(hero)) report += hero.mobname + " was knocked unconscious by the impact.  ";
   }
