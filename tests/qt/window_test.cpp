@@ -46,7 +46,7 @@ class QtWindowTest : public testing::Test {
       g.list1.push_back(std::to_string(key.keycode));
       if (key.keycode != 'E') return;
       g.desktop.window.processevents();
-      g.list1.push_back("turn ended");
+      g.list1.emplace_back("turn ended");
     };
     game.sapivoice = std::make_unique<Recorder>(said);
     game.sapiready = 1;

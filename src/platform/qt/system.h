@@ -27,7 +27,7 @@ class QtSystem : public System {
 
  private:
   // Writes lines to the log, each after `prefix`, from whatever thread.
-  std::function<void(std::string_view)> log(std::string prefix = {});
+  std::function<void(std::string_view)> log(std::string_view prefix = {});
 
   QtWindow& window_;
   SoundOutput output_;
