@@ -1,8 +1,8 @@
 // What an end of turn costs as the number of mobs grows. Run it with a program folder that holds
 // the sounds as the working directory.
-#include <benchmark/benchmark.h>
-
 #include <array>
+
+#include <benchmark/benchmark.h>
 
 #include "platform/replay/replaysession.h"
 #include "resolution/endturn.h"

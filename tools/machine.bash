@@ -120,6 +120,6 @@ configure() { # PRESET [CMAKE-OPTION...]
 build() { # PRESET TARGET
   {
     NINJA_STATUS='%p ' cmake --build --preset "$1" --target "$2" --parallel "$(nproc)" 2>&1 |
-      tenths built '^ *([0-9]+)% ' | sed -u '/^ninja: no work to do/d'
+      sed -u '/^ninja: no work to do/d; /^ *[0-9]*% Re-/d; /^-- /d' | tenths built '^ *([0-9]+)% '
   } 3>&1 || stop "The $1 build failed; the reason is above."
 }

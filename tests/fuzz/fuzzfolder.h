@@ -1,13 +1,13 @@
 // A program folder in memory for a fuzzer, with one file of any content in it.
 #pragma once
 
-#include <unistd.h>
-
 #include <cstdint>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <string>
+
+#include <unistd.h>
 
 namespace duskmarch {
 

@@ -52,9 +52,9 @@ class EspeakVoiceTest : public testing::Test {
     }));
     return heard;
   }
-  std::size_t length(std::string_view text) {
+  double length(std::string_view text) {
     voice_.speak(text);
-    return listen().size();
+    return static_cast<double>(listen().size());
   }
 
   const std::shared_ptr<SpeechStream> stream_ = std::make_shared<SpeechStream>();
@@ -76,7 +76,7 @@ TEST_F(EspeakVoiceTest, LosesNothingAtTheEnd) {
     return true;
   });
   const double expected = static_cast<double>(made) * mixrate / Espeak::instance().samplerate();
-  EXPECT_NEAR(static_cast<double>(length(longtext)), expected, 0.01 * expected);
+  EXPECT_NEAR(length(longtext), expected, 0.01 * expected);
 }
 
 TEST_F(EspeakVoiceTest, AnEmptyTextSilencesAtOnce) {
@@ -86,23 +86,22 @@ TEST_F(EspeakVoiceTest, AnEmptyTextSilencesAtOnce) {
   voice_.speak("");
   const auto after = block();
   EXPECT_EQ(peak({after.begin() + mixrate / 400, after.end()}), 0);
-  EXPECT_EQ(length(""), 0U);
+  EXPECT_EQ(length(""), 0);
 }
 
 TEST_F(EspeakVoiceTest, TheLatestTextWinsAndIsWhole) {
-  const auto alone = static_cast<double>(length("Stop."));
+  const double alone = length("Stop.");
   voice_.speak(longtext);
   waitforsound();
   voice_.speakafter(longtext);
   for (int key = 0; key < 5000; ++key) voice_.speak(longtext);
-  voice_.speak("Stop.");
-  EXPECT_NEAR(static_cast<double>(listen().size()), alone, 0.05 * alone);
+  EXPECT_NEAR(length("Stop."), alone, 0.05 * alone);
 }
 
 TEST_F(EspeakVoiceTest, TextsAfterFollowInOrderWithAPause) {
   voice_.setrate(10);  // so that all of it fits into what is kept ahead
-  const auto one = static_cast<double>(length("a"));
-  const auto other = static_cast<double>(length("Stop."));
+  const double one = length("a");
+  const double other = length("Stop.");
   voice_.speak("a");
   voice_.speakafter("");
   voice_.speakafter("Stop.");
@@ -116,12 +115,12 @@ TEST_F(EspeakVoiceTest, TextsAfterFollowInOrderWithAPause) {
 }
 
 TEST_F(EspeakVoiceTest, EachRateIsFasterThanTheOneBefore) {
-  std::size_t before = length(longtext);
+  double before = length(longtext);  // the start rate is 2
   voice_.setrate(1);
   EXPECT_GT(length(longtext), before);
   for (int rate = 3; rate <= 10; ++rate) {
     voice_.setrate(rate);
-    const std::size_t now = length(longtext);
+    const double now = length(longtext);
     EXPECT_LT(now, before) << "at rate " << rate;
     before = now;
   }
@@ -130,22 +129,18 @@ TEST_F(EspeakVoiceTest, EachRateIsFasterThanTheOneBefore) {
 TEST_F(EspeakVoiceTest, SurvivesStrangeTexts) {
   std::string every;
   for (int i = 0; i < 3 * 256; ++i) every += static_cast<char>(i);
-  for (const auto& text : {every, std::string(3, '\0'),
-                           std::string("<speak>\x01"
-                                       "200S</speak>")}) {
-    voice_.speak(text);
-    listen();
-  }
+  EXPECT_GT(length(every), 0);
+  EXPECT_EQ(length(std::string(3, '\0')), 0);
   EXPECT_GT(length("<b>bold</b>"), length("bold"));  // markup is text like any other
+  EXPECT_NEAR(length("\001400S bold"), length(" 400S bold"), 0.05 * length("bold"));
 }
 
 TEST_F(EspeakVoiceTest, AHugeTextCanBeCutOff) {
   std::string huge;
   while (huge.size() < 5'000'000) huge += longtext;
-  const auto alone = static_cast<double>(length("Stop."));
   voice_.speak(huge);
   waitforsound();
-  EXPECT_NEAR(static_cast<double>(length("Stop.")), alone, 0.05 * alone);
+  EXPECT_LT(length("Stop."), mixrate);
   voice_.speak(huge);  // and the voice can end in the middle of it
 }
 
@@ -161,44 +156,34 @@ TEST_F(EspeakVoiceTest, IsHeardOnAnotherThread) {
   audio.join();
 }
 
-TEST_F(EspeakVoiceTest, ALaterVoiceTakesOver) {
-  voice_.speak(longtext);
-  waitforsound();
+TEST_F(EspeakVoiceTest, ANewVoiceTakesOver) {
   auto earlier = std::make_unique<EspeakVoice>(stream_, [](std::string_view) {});
   earlier->speak(longtext);
-  const auto alone = static_cast<double>(length("Stop."));
+  waitforsound();
+  const double alone = length("Stop.");
+  voice_.speak("Stop.");
   earlier.reset();
-  EXPECT_NEAR(static_cast<double>(length("Stop.")), alone, 0.05 * alone);
+  EXPECT_NEAR(static_cast<double>(listen().size()), alone, 0.05 * alone);
 }
 
-TEST(SpeechStreamTest, KeepsHalfASecondAheadOfWhatIsStillWanted) {
+TEST(SpeechStreamTest, HoldsHalfASecondAndFadesWhatIsCutOff) {
   SpeechStream stream;
   const std::vector<float> second(mixrate, 0.5F);
   const auto old = stream.cut();
   EXPECT_EQ(stream.offer(old, second), 24000U);
   EXPECT_EQ(stream.offer(old, second), 0U);
-  const auto next = stream.cut();
-  EXPECT_EQ(stream.offer(old, second), std::nullopt);
-  EXPECT_EQ(stream.offer(next, std::vector<float>(100, 0.25F)), 100U);
   std::vector<float> mixed(2 * 200, 0.125F);
   stream.mix(mixed.data(), 200);
-  EXPECT_EQ(mixed[199], 0.375F);
-  EXPECT_EQ(mixed[200], 0.125F);
+  EXPECT_EQ(mixed, std::vector<float>(2 * 200, 0.625F));
+  const auto next = stream.cut();
+  EXPECT_EQ(stream.offer(old, second), std::nullopt);
+  EXPECT_EQ(stream.offer(next, std::vector<float>(2, 0.25F)), 2U);
+  mixed.assign(2 * 200, 0);
+  stream.mix(mixed.data(), 200);
+  EXPECT_NEAR(mixed[2], 0.25 + 0.5 * 0.9 * 0.9, 1e-6);
+  EXPECT_NEAR(mixed[4], 0.5 * 0.9 * 0.9 * 0.9, 1e-6);
+  EXPECT_EQ(mixed[2 * 150], 0);
   EXPECT_TRUE(stream.drained());
-}
-
-TEST(SpeechStreamTest, DoesNotStopDead) {
-  SpeechStream stream;
-  const auto turn = stream.cut();
-  stream.offer(turn, std::vector<float>(100, 0.5F));
-  std::vector<float> mixed(2 * 50);
-  stream.mix(mixed.data(), 50);
-  stream.cut();
-  std::vector<float> after(2 * 400);
-  stream.mix(after.data(), 400);
-  EXPECT_NEAR(after[0], 0.45, 1e-6);
-  EXPECT_NEAR(after[2 * 10], 0.5 * std::pow(0.9, 11), 1e-6);
-  EXPECT_EQ(after[2 * 200], 0);
 }
 
 // The synthesizer's library would ask a sound server; one that is frozen takes the connection and

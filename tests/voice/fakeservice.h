@@ -1,11 +1,12 @@
 // A speech service that notes what it is asked, and can be killed and frozen.
 #pragma once
 
+#include <array>
 #include <atomic>
 #include <cstdlib>
 #include <filesystem>
-#include <list>
 #include <mutex>
+#include <optional>
 #include <string>
 #include <thread>
 #include <utility>
@@ -61,8 +62,7 @@ class FakeService {
  private:
   struct Client {
     int socket = -1;
-    bool speaking = false;
-    std::string text;
+    std::optional<std::string> text;  // while one is being sent
     std::string unread;
   };
 
@@ -72,44 +72,38 @@ class FakeService {
       for (const Client& client : clients_) polled.push_back({client.socket, POLLIN, 0});
       poll(polled.data(), polled.size(), 5);
       if (frozen_) continue;
-      auto at = polled.begin();
-      if (at++->revents != 0)
-        clients_.push_back({accept(listener_, nullptr, nullptr), false, "", ""});
-      for (auto client = clients_.begin(); at != polled.end(); ++at) {
-        const bool gone = at->revents != 0 && !read(*client);
-        if (gone) close(client->socket);
-        client = gone ? clients_.erase(client) : std::next(client);
-      }
+      auto ready = polled.begin() + 1;
+      std::erase_if(clients_,
+                    [&](Client& client) { return ready++->revents != 0 && !read(client); });
+      if (polled[0].revents != 0) clients_.push_back({accept(listener_, nullptr, nullptr), {}, {}});
     }
   }
+  // False once the client has gone.
   bool read(Client& client) {
-    char bytes[4096];
-    const ssize_t count = recv(client.socket, bytes, sizeof bytes, 0);
-    if (count <= 0) return false;
-    client.unread.append(bytes, static_cast<std::size_t>(count));
-    for (std::size_t end; (end = client.unread.find("\r\n")) != std::string::npos;) {
-      answer(client, client.unread.substr(0, end));
+    std::array<char, 4096> bytes{};
+    const ssize_t count = recv(client.socket, bytes.data(), bytes.size(), 0);
+    if (count <= 0) return close(client.socket) != 0;
+    client.unread.append(bytes.data(), static_cast<std::size_t>(count));
+    for (std::size_t end = 0; (end = client.unread.find("\r\n")) != std::string::npos;) {
+      const std::string reply = answer(client, client.unread.substr(0, end));
       client.unread.erase(0, end + 2);
+      send(client.socket, reply.data(), reply.size(), MSG_NOSIGNAL);
     }
     return true;
   }
-  void answer(Client& client, const std::string& line) {
-    std::string reply = "200 OK\r\n";
-    if (client.speaking && line != ".") {
-      client.text += client.text.empty() ? line : "\n" + line;
-      return;
+  std::string answer(Client& client, const std::string& line) {
+    if (client.text && line == ".") {
+      note(*std::exchange(client.text, std::nullopt));
+      return "225-1\r\n225 OK MESSAGE QUEUED\r\n";
     }
-    if (client.speaking) {
-      client.speaking = false;
-      note(std::exchange(client.text, ""));
-      reply = "225-1\r\n225 OK MESSAGE QUEUED\r\n";
-    } else if (line == "speak") {  // as the library writes it
-      client.speaking = true;
-      reply = "230 OK RECEIVING DATA\r\n";
-    } else if (line.starts_with("CANCEL")) {
-      note(line);
+    if (client.text) {
+      *client.text += line;
+      return {};
     }
-    send(client.socket, reply.data(), reply.size(), MSG_NOSIGNAL);
+    if (line.starts_with("CANCEL")) note(line);
+    if (line != "speak") return "200 OK\r\n";
+    client.text.emplace();
+    return "230 OK RECEIVING DATA\r\n";
   }
   void note(std::string what) {
     const std::lock_guard guard(mutex_);
@@ -119,7 +113,7 @@ class FakeService {
   std::filesystem::path folder_;
   int listener_ = -1;
   std::thread thread_;
-  std::list<Client> clients_;
+  std::vector<Client> clients_;
   std::atomic<bool> alive_ = false;
   std::atomic<bool> frozen_ = false;
   std::mutex mutex_;
