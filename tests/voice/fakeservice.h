@@ -82,7 +82,8 @@ class FakeService {
   bool read(Client& client) {
     std::array<char, 4096> bytes{};
     const ssize_t count = recv(client.socket, bytes.data(), bytes.size(), 0);
-    if (count <= 0) return close(client.socket) != 0;
+    if (count <= 0) close(client.socket);
+    if (count <= 0) return false;
     client.unread.append(bytes.data(), static_cast<std::size_t>(count));
     for (std::size_t end = 0; (end = client.unread.find("\r\n")) != std::string::npos;) {
       const std::string reply = answer(client, client.unread.substr(0, end));
