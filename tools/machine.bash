@@ -42,14 +42,17 @@ missing() {
   done <<<"$list"
 }
 
-# Runs apt-get; what it says goes to a log, whose end is shown when it fails.
+# Runs apt-get; what it says goes to a log, whose end is shown when it fails. Its progress alone goes
+# through a pipe: apt does not wait for a reader that falls behind, and neither would the packages'
+# own scripts, which fail when they cannot write.
 aptget() {
-  local log=build/packages.log options=(APT::Status-Fd=1 Dpkg::Use-Pty=0 DPkg::Lock::Timeout=600)
+  local log=build/packages.log options=(APT::Status-Fd=3 Dpkg::Use-Pty=0 DPkg::Lock::Timeout=600)
   {
-    "${asroot[@]}" env DEBIAN_FRONTEND=noninteractive \
-      apt-get -y "${options[@]/#/-o}" "$@" 2>&1 </dev/null |
+    # shellcheck disable=SC2016 # for the shell inside; sudo passes on no descriptors but three
+    "${asroot[@]}" sh -c 'exec 3>&1 >&2 && DEBIAN_FRONTEND=noninteractive exec apt-get -y "$@"' \
+      apt-get "${options[@]/#/-o}" "$@" 2>"$log" </dev/null |
       tenths fetched '^dlstatus:.*:([0-9]+)(\.[0-9]+)?:' |
-      tenths installed '^pmstatus:.*:([0-9]+)(\.[0-9]+)?:' >"$log"
+      tenths installed '^pmstatus:.*:([0-9]+)(\.[0-9]+)?:' >/dev/null
   } 3>&1 || { tail -n 15 "$log" >&2 && return 1; }
 }
 
