@@ -31,7 +31,7 @@ constexpr milliseconds slow{1000};
 constexpr milliseconds patience{2000};
 // Between two tries to reach a service that is away.
 constexpr milliseconds retry{500};
-// What the end of the program waits for.
+// How long the end of the program waits for the thread, and once more when it has been cut short.
 constexpr milliseconds farewell{300};
 // More texts than anyone would wait for; of longer queues the oldest are dropped.
 constexpr std::size_t longestqueue = 200;
@@ -225,8 +225,10 @@ SpeechService::~SpeechService() {
   std::unique_lock lock(desk_->mutex);
   const unsigned last = desk_->incharge++;
   desk_->wake.notify_all();
-  desk_->wake.wait_for(lock, farewell, [&] { return desk_->departed >= last; });
-  if (desk_->line != -1) shutdown(desk_->line, SHUT_RDWR);
+  const auto departed = [&] { return desk_->departed >= last; };
+  if (desk_->wake.wait_for(lock, farewell, departed) || desk_->line == -1) return;
+  shutdown(desk_->line, SHUT_RDWR);
+  desk_->wake.wait_for(lock, farewell, departed);
 }
 
 void SpeechService::saystring(std::string_view text) {
