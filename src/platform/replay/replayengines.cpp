@@ -12,6 +12,7 @@ namespace {
 std::string beginning(const std::filesystem::path& file, std::size_t size) {
   if (!std::filesystem::is_regular_file(file)) throw PlatformError("it is no file");
   std::filebuf stream;
+  stream.pubsetbuf(nullptr, 0);  // a page of buffer would cost more than the few bytes
   if (stream.open(file, std::ios::in | std::ios::binary) == nullptr) {
     throw PlatformError("it cannot be opened");
   }
