@@ -4,6 +4,8 @@
 #include <cmath>
 #include <limits>
 
+#include <sys/stat.h>
+
 #include "harness.h"
 
 namespace duskmarch {
@@ -81,6 +83,15 @@ TEST_F(Sounds, AMissingOrBadFileIsLoggedEachTimeAndTheBufferKeepsItsSound) {
   const std::string line = "File is missing: " + folder.path.string() + "\\sounds\\none.wav\r\n";
   EXPECT_TRUE(log().starts_with(line + line + "error in setsound: ")) << log();
   EXPECT_EQ(game.bufferfile[5], arrows);
+}
+
+TEST_F(Sounds, WhatIsNoFileIsMissingAndNothingWaitsForIt) {
+  ASSERT_EQ(mkfifo((folder.path / "pipe.wav").c_str(), 0600), 0);
+  std::filesystem::create_directory(folder.path / "folder.wav");
+  for (const std::string name : {"/pipe.wav", "/folder.wav"}) {
+    EXPECT_EQ(played(name), "");
+    EXPECT_TRUE(log().ends_with("File is missing: " + folder.path.string() + name + "\r\n"));
+  }
 }
 
 TEST_F(Sounds, ABufferThatNeverHeldASoundPlaysNothingAndTheRotationMovesOn) {

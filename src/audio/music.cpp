@@ -39,7 +39,9 @@ void render(Game& game, int z, std::string_view name) {
   auto& graph = game.music.players.at(static_cast<std::size_t>(z));
   graph.reset();
   const auto file = findfile(game.programfolder, name);
-  if (!file) throw std::runtime_error("the file is missing");
+  if (!file || !std::filesystem::is_regular_file(*file)) {
+    throw std::runtime_error("the file is missing");
+  }
   graph = game.desktop.system.createmusic(*file);
   graph->setvolume(0);
 }

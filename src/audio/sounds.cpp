@@ -84,8 +84,8 @@ void setsound(Game& game, int buffer, std::string& name) {
   logged(game, "setsound", [&] {
     name = std::string(trim(name));
     if (name.empty()) return;
-    const auto file = game.soundfinder.find(game.programfolder, name);
-    if (!file || std::filesystem::is_directory(*file)) {
+    const std::filesystem::path* file = game.soundfinder.find(game.programfolder, name);
+    if (file == nullptr) {
       logline(game.programfolder, "File is missing: " + game.programfolder.string() + name);
       return;
     }

@@ -115,7 +115,8 @@ class JawsApi {
 class SoundDevice {
  public:
   virtual ~SoundDevice() = default;
-  // Replaces what `buffer` holds by the sound in `file`, stopped, at full volume and centred.
+  // Replaces what `buffer` holds by the sound in `file` (a regular file, nothing that could make
+  // the game wait), stopped, at full volume and centred.
   // `name` is what the game calls it. On an error the buffer keeps what it held.
   virtual void load(int buffer, std::string_view name, const std::filesystem::path& file) = 0;
   // Hundredths of a decibel, -5000 to 0.

@@ -19,6 +19,11 @@ bool present(const fs::path& file) {
   return fs::exists(file, ignored);
 }
 
+bool isfile(const fs::path& file) {
+  std::error_code ignored;
+  return fs::is_regular_file(file, ignored);
+}
+
 std::optional<fs::path> findpart(const fs::path& folder, std::string_view part) {
   if (fs::path exact = folder / part; present(exact)) return exact;
   std::error_code error;
@@ -43,12 +48,13 @@ std::optional<fs::path> findfile(const fs::path& folder, std::string_view name) 
   return found;
 }
 
-std::optional<fs::path> FileFinder::find(const fs::path& folder, std::string_view name) {
-  const auto known = found_.find(name);
-  if (known != found_.end() && present(known->second)) return known->second;
+const fs::path* FileFinder::find(const fs::path& folder, std::string_view name) {
+  auto known = found_.find(name);
+  if (known != found_.end() && isfile(known->second)) return &known->second;
   std::optional<fs::path> found = findfile(folder, name);
-  if (found) found_.insert_or_assign(std::string(name), *found);
-  return found;
+  if (!found || !isfile(*found)) return nullptr;
+  known = found_.insert_or_assign(std::string(name), *std::move(found)).first;
+  return &known->second;
 }
 
 std::string tidyname(std::string_view name) {

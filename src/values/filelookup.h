@@ -14,12 +14,13 @@ namespace duskmarch {
 // "sounds/menu/SAPI.wav". A name that matches exactly wins.
 std::optional<std::filesystem::path> findfile(const std::filesystem::path& folder,
                                               std::string_view name);
-// findfile() for names that are asked for again and again: remembers where each was found, and
-// looks anew for what is no longer there.
+// findfile() for files whose names are asked for again and again: remembers where each was found,
+// and looks anew for what is no longer there.
 class FileFinder {
  public:
-  std::optional<std::filesystem::path> find(const std::filesystem::path& folder,
-                                            std::string_view name);
+  // Null when there is no such file, or when it is a folder or anything else that is no file; else
+  // good until the next call.
+  const std::filesystem::path* find(const std::filesystem::path& folder, std::string_view name);
 
  private:
   std::map<std::string, std::filesystem::path, std::less<>> found_;

@@ -8,9 +8,8 @@ namespace duskmarch {
 
 namespace {
 
-// The first bytes of a regular file; fewer when it is shorter.
+// The first bytes of a file; fewer when it is shorter.
 std::string beginning(const std::filesystem::path& file, std::size_t size) {
-  if (!std::filesystem::is_regular_file(file)) throw PlatformError("it is no file");
   std::filebuf stream;
   stream.pubsetbuf(nullptr, 0);  // a page of buffer would cost more than the few bytes
   if (stream.open(file, std::ios::in | std::ios::binary) == nullptr) {
