@@ -101,6 +101,7 @@ void offer(Game& game, const Mob& mob, const OfferingRule& rule) {
 }
 
 void offertargets(Game& game, const Mob& mob) {
+  if (game.listingfor != 0) return;  // an enemy makes nothing of them
   for (int slot = 1; slot <= game.mobcount; ++slot) {
     const Mob& other = game.mob(slot);
     if (!conscious(other) || !foehere(game, mob, other)) continue;

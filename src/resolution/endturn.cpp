@@ -1,6 +1,7 @@
 #include "resolution/endturn.h"
 
 #include <string>
+#include <vector>
 
 #include "heroturn/messagelog.h"
 #include "heroturn/optionlist.h"
@@ -158,13 +159,18 @@ void arrive(Game& game, Mob& mob) {
 }
 
 void freshturn(Game& game) {
+  const std::vector<int> againstenemies = slotsagainst(game, aliance::enemies);
   for (int x = 1; x <= game.mobcount; ++x) {
     Mob& mob = game.mob(x);
     mob.hasmoved = 0;
     mob.hasacted = 0;
     if (mob.spawntime == game.turnnumber) arrive(game, mob);
     removetag(mob.action, tag::shield);
-    engagedcheck(game, x);
+    if (mob.aliance == aliance::enemies) {
+      engagedcheck(game, x, againstenemies);  // many, who all ask about the same few
+    } else {
+      engagedcheck(game, x);
+    }
     if (mob.mobtype == mobtype::gunman && mob.action.empty()) mob.action = tag::reload;
   }
 }

@@ -1,5 +1,7 @@
 #include "resolution/melee.h"
 
+#include <algorithm>
+
 #include "heroturn/messagelog.h"
 #include "resolution/tags.h"
 #include "world/narration.h"
@@ -46,8 +48,8 @@ void endaboveorat0(Number& fight) {
 }
 
 bool holdsinafight(const Mob& opponent, const Mob& mob) {
-  return conscious(opponent) && opponent.aliance != mob.aliance && sametile(opponent, mob) &&
-         hastag(opponent.action, tag::fight) && opponent.fight > 0 && opponent.status.empty();
+  return conscious(opponent) && sametile(opponent, mob) && hastag(opponent.action, tag::fight) &&
+         opponent.fight > 0 && opponent.status.empty();
 }
 
 }  // namespace
@@ -60,9 +62,13 @@ FightValues calcfight(const Game& game, int z) {
 }
 
 void engagedcheck(Game& game, int slot) {
+  engagedcheck(game, slot, slotsagainst(game, game.mob(slot).aliance));
+}
+
+void engagedcheck(Game& game, int slot, std::span<const int> opponents) {
   Mob& mob = game.mob(slot);
-  bool held = false;
-  for (int x = 1; x <= game.mobcount && !held; ++x) held = holdsinafight(game.mob(x), mob);
+  const bool held = std::ranges::any_of(
+      opponents, [&](int opponent) { return holdsinafight(game.mob(opponent), mob); });
   mob.engaged = held ? 1 : 0;
 }
 

@@ -1,6 +1,7 @@
 // Hand-to-hand fighting. Nothing here involves chance.
 #pragma once
 
+#include <span>
 #include <string>
 
 #include "game.h"
@@ -19,6 +20,8 @@ FightValues calcfight(const Game& game, int z);
 // Recomputes whether a mob is held in a fight: some conscious, unhindered opponent with fighting
 // points left on its tile has planned to fight.
 void engagedcheck(Game& game, int slot);
+// The same, asking nobody but `opponents`: the slots of all who are on another side than the mob.
+void engagedcheck(Game& game, int slot, std::span<const int> opponents);
 
 // What two fighting values do to each other: the stronger deals damage, whoever attacked in vain or
 // won tires, and a knockout earns an attacking hero a point. Returns the words that tell of it.

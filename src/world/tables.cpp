@@ -95,6 +95,14 @@ Hundredths menhere(const Game& game, int shiftz, int x, int y, int side, std::st
   return count;
 }
 
+std::vector<int> slotsagainst(const Game& game, int side) {
+  std::vector<int> slots;
+  for (int slot = 1; slot <= game.mobcount; ++slot) {
+    if (game.mob(slot).aliance != side) slots.push_back(slot);
+  }
+  return slots;
+}
+
 int itemshere(const Game& game, int shiftz, int x, int y) {
   int count = 0;
   for (int slot = shiftz; slot <= game.itemcount; ++slot) {

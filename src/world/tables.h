@@ -58,6 +58,8 @@ void useup(Game& game, int w, std::string_view ability, int uses);
 // Counts the conscious mobs from slot `shiftz` on that stand on a tile and belong to `side` (-1:
 // either side). For the reason "fight" each counts by how much it can still fight.
 Hundredths menhere(const Game& game, int shiftz, int x, int y, int side, std::string_view reason);
+// The slots of all mobs, conscious or not, that are on another side than `side`.
+std::vector<int> slotsagainst(const Game& game, int side);
 // Counts the furniture in play from slot `shiftz` on that stands on a tile.
 int itemshere(const Game& game, int shiftz, int x, int y);
 // The highest slot of furniture in play of that name on a tile; 0 when there is none.
