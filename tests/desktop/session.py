@@ -96,16 +96,19 @@ class Reader:
         from gi.repository import Atspi, GLib
         self.atspi, self.gone = Atspi, GLib.Error
         self.events = GLib.MainContext.default()
-        self.heard = []  # the titles announced, in order
+        self.heard = []  # the window's titles, as they were announced
         self.focus = None
         Atspi.init()
         self.listener = Atspi.EventListener.new(self.hear)
-        for kind in ("object:property-change:accessible-name", "object:state-changed:focused"):
+        for kind in ("object:property-change:accessible-name", "object:state-changed:focused",
+                     "window:activate"):
             self.listener.register(kind)
 
     def hear(self, event):
         if event.type.startswith("object:property-change"):
             self.heard.append(str(event.any_data).strip())
+        elif event.type.startswith("window:activate"):  # a reader says where the player is now
+            self.heard.append(event.source.get_name().strip())
         elif event.detail1:
             self.focus = event.source
 
