@@ -1,5 +1,7 @@
 #include "shell/keyboard.h"
 
+#include <algorithm>
+
 #include "harness.h"
 #include "heroturn/optionlist.h"
 #include "shell/hold.h"
@@ -164,6 +166,13 @@ TEST(Keyboard, HoldLetsKeysThroughAndTheSyntheticKeysAreNobodys) {
   hold(player.game, 1);
   EXPECT_EQ(player.replay.transcript.text(),
             "wait\t1\nplay\t2\t0\t0\t0\tsounds/menu/arrows.wav\nvoice\tStart new game\n");
+  player.window.pending = [&] {
+    for (int n = 0; n < 10'000; ++n) keypress(player.game, {.keycode = key::down});
+  };
+  player.replay.transcript.clear();
+  hold(player.game, 1);
+  const std::string& heard = player.replay.transcript.text();
+  EXPECT_EQ(std::ranges::count(heard, '\n'), 1 + 2 * 10'000) << "a key was lost or came twice";
   player.game.speechmode = 2;
   player.replay.transcript.clear();
   player.window.pending = [&] { keypress(player.game, {.keycode = key::ctrl}); };
