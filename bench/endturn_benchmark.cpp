@@ -43,7 +43,7 @@ void endsofturn(benchmark::State& state) {
     session.presskey({.keycode = code});
   }
   std::size_t bytes = 0;
-  for (auto _ : state) {
+  while (state.KeepRunning()) {
     state.PauseTiming();
     crowd(session.game, static_cast<int>(state.range(0)));
     state.ResumeTiming();

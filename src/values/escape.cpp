@@ -1,6 +1,7 @@
 #include "values/escape.h"
 
 #include <array>
+#include <bit>
 #include <cstdint>
 #include <cstring>
 
@@ -11,11 +12,18 @@ namespace {
 constexpr std::string_view special = "\\\t\r\n";
 constexpr std::string_view letters = "\\trn";
 
-constexpr auto isspecial = [] {
-  std::array<bool, 256> table{};
-  for (const char c : special) table[static_cast<unsigned char>(c)] = true;
+// By byte: the letter that stands for it after a backslash; 0 for plain ones.
+constexpr auto letterof = [] {
+  std::array<char, 256> table{};
+  for (std::size_t n = 0; n < special.size(); ++n) {
+    table[static_cast<unsigned char>(special[n])] = letters[n];
+  }
   return table;
 }();
+
+char letterfor(char byte) {
+  return letterof[static_cast<unsigned char>(byte)];
+}
 
 using Block = std::uint64_t;  // eight bytes looked at together: most of a text is plain
 
@@ -23,21 +31,38 @@ constexpr Block everybyte(unsigned char byte) {
   return ~Block{0} / 255 * byte;
 }
 
-// Whether none of the bytes is a backslash or a control character; now and then it says no to a
-// block that is plain, never yes to one that is not.
-bool plainblock(const char* bytes) {
+// The bytes, by their highest bits, that may be a backslash or a control character: all that are,
+// and now and then a plain one beside them.
+Block suspects(const char* bytes) {
   Block block = 0;
   std::memcpy(&block, bytes, sizeof block);
   const Block nobackslash = block ^ everybyte('\\');
   const Block controls = (block - everybyte(' ')) & ~block;
   const Block backslashes = (nobackslash - everybyte(1)) & ~nobackslash;
-  return ((controls | backslashes) & everybyte(0x80)) == 0;
+  return (controls | backslashes) & everybyte(0x80);
+}
+
+// How many bytes stand before the first suspect.
+std::size_t bytesbefore(Block suspect) {
+  const bool littleendian = std::endian::native == std::endian::little;
+  return static_cast<std::size_t>(littleendian ? std::countr_zero(suspect)
+                                               : std::countl_zero(suspect)) /
+         8;
 }
 
 // Where the next byte that needs escaping stands, from `at` on.
 std::size_t nextspecial(std::string_view text, std::size_t at) {
-  while (at + sizeof(Block) <= text.size() && plainblock(text.data() + at)) at += sizeof(Block);
-  while (at < text.size() && !isspecial[static_cast<unsigned char>(text[at])]) ++at;
+  while (at + sizeof(Block) <= text.size()) {
+    const Block suspect = suspects(text.data() + at);
+    if (suspect == 0) {
+      at += sizeof(Block);
+      continue;
+    }
+    at += bytesbefore(suspect);
+    if (letterfor(text[at]) != 0) return at;
+    ++at;
+  }
+  while (at < text.size() && letterfor(text[at]) == 0) ++at;
   return at;
 }
 
@@ -48,7 +73,7 @@ void appendescaped(std::string& out, std::string_view text) {
   for (std::size_t at = nextspecial(text, 0); at < text.size(); at = nextspecial(text, start)) {
     out.append(text, start, at - start);
     out += '\\';
-    out += letters[special.find(text[at])];
+    out += letterfor(text[at]);
     start = at + 1;
   }
   out.append(text, start);
