@@ -52,4 +52,13 @@ class RandomScript {
   std::mt19937 random_;
 };
 
+// Each seed at another desktop: with and without a voice, a speech service and a screen reader.
+inline ReplayOptions soakoptions(const std::filesystem::path& folder, std::uint32_t seed) {
+  return {.folder = folder,
+          .seed = seed,
+          .voice = seed % 4 != 0,
+          .jaws = seed % 3 != 0,
+          .reader = seed % 2 == 0};
+}
+
 }  // namespace duskmarch

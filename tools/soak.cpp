@@ -46,9 +46,7 @@ struct Soak {
   std::unique_ptr<ReplaySession> session = {};
   std::chrono::duration<double, std::milli> slowest{0};
 
-  void start() {
-    session = std::make_unique<ReplaySession>(ReplayOptions{.folder = folder, .seed = seed});
-  }
+  void start() { session = std::make_unique<ReplaySession>(soakoptions(folder, seed)); }
   // Empty when all is well.
   std::string step(int number) {
     if (!session || session->game.ended) start();
