@@ -112,7 +112,7 @@ TEST(Mixing, ChangesArriveWhileAnotherThreadRenders) {
   });
   const auto source = std::make_shared<Constant>(0.0F);
   for (int n = 0; n < 2000; ++n) {
-    mixer.load(n % 50, mono(Samples(100, 0.25F)));
+    mixer.load(n % 50, mono(Samples(8, 0.25F)));  // a loop goes round within a block
     mixer.setvolume(n % 50, -n % 5000);
     mixer.play(n % 50, n % 2 == 0);
     n % 2 == 0 ? mixer.addsource(source) : mixer.removesource(*source);

@@ -87,24 +87,27 @@ const Mixer::Order* Mixer::Slot::heard() noexcept {
 
 void Mixer::Slot::mix(float* samples, std::size_t frames) noexcept {
   const Order* order = heard();
-  while (order != nullptr && playing && frames > 0) {
+  if (order == nullptr) return;
+  while (playing && frames > 0) {
     const std::size_t count = std::min(frames, order->clip->frames() - position);
     const Clip& clip = *order->clip;
     const float* from = &clip.samples[position * clip.channels];
     addframes(from, clip.channels, order->levels, samples, count);
-    skip(count);
+    advance(*order, count);
     samples += 2 * count;
     frames -= count;
   }
 }
 
 void Mixer::Slot::skip(std::size_t frames) noexcept {
-  const Order* order = heard();
-  if (order == nullptr) return;
+  if (const Order* order = heard()) advance(*order, frames);
+}
+
+void Mixer::Slot::advance(const Order& order, std::size_t frames) noexcept {
   position += frames;
-  if (position < order->clip->frames()) return;
-  position %= order->clip->frames();
-  playing = order->loop;
+  if (position < order.clip->frames()) return;
+  position %= order.clip->frames();
+  playing = order.loop;
 }
 
 }  // namespace duskmarch

@@ -68,8 +68,9 @@ class Mixer {
     std::size_t position = 0;  // in frames
     bool playing = false;
 
-    // What is playing, or null.
+    // What is playing, or null; good until the next call.
     const Order* heard() noexcept;
+    void advance(const Order& order, std::size_t frames) noexcept;
     void mix(float* samples, std::size_t frames) noexcept;
     void skip(std::size_t frames) noexcept;
   };
