@@ -135,6 +135,7 @@ struct Game {
   void (*handlekey)(Game&, KeyPress) = nullptr;  // what a key does; set at start-up
   bool sendingkeys = false;                      // the synthetic keys of mode 2 are on their way
   CrashTrace trace;
+  bool leaving = false;           // the player has chosen to end the program
   bool ended = false;             // the program is ending; no key acts any more
   bool writefailuretold = false;  // the player knows that the folder cannot be written to
 

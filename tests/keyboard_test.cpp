@@ -156,6 +156,18 @@ TEST(Keyboard, AKeyInsideAnotherKeysHandlerWaitsItsTurn) {
             "voice\tHold Shift and press E to confirm ending your current turn.\n");
 }
 
+TEST(Keyboard, AHeldEnterLeavesOnce) {
+  BusyPlayer player;
+  startup(player.game);
+  keypress(player.game, {.keycode = key::up});
+  player.replay.transcript.clear();
+  player.window.pending = [&] { keypress(player.game, {.keycode = key::enter}); };
+  keypress(player.game, {.keycode = key::enter});
+  const std::string& heard = player.replay.transcript.text();
+  EXPECT_EQ(heard.find("Good bye."), heard.rfind("Good bye."));
+  EXPECT_TRUE(heard.ends_with("end\n")) << heard;
+}
+
 TEST(Keyboard, HoldLetsKeysThroughAndTheSyntheticKeysAreNobodys) {
   BusyPlayer player;
   startup(player.game);

@@ -1,6 +1,7 @@
 #include <array>
 #include <cstddef>
 #include <string_view>
+#include <utility>
 
 #include "campaign/screens.h"
 #include "missions/missions.h"
@@ -30,9 +31,10 @@ void about(Game& game) {
 }
 
 void exitgame(Game& game) {
+  if (std::exchange(game.leaving, true)) return;  // a held key comes again and again
   sayit(game, "Good bye.");
   hold(game, 1);
-  if (game.ended) return;  // a key pressed during the wait was quicker
+  if (game.ended) return;  // the window was closed during the wait
   game.ended = true;
   game.desktop.system.end();
 }
