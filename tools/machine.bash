@@ -104,7 +104,7 @@ configured() { # PRESET
   [[ build/$1/build.ninja -nt CMakePresets.json ]] && ! moved "$1"
 }
 moved() { # PRESET
-  ! grep -qsx "CMAKE_HOME_DIRECTORY:INTERNAL=$PWD" "build/$1/CMakeCache.txt"
+  ! grep -qsxF "CMAKE_HOME_DIRECTORY:INTERNAL=$PWD" "build/$1/CMakeCache.txt"
 }
 
 # Prepares build/PRESET. ccache saves time where there is one.
@@ -120,9 +120,9 @@ configure() { # PRESET [CMAKE-OPTION...]
 }
 
 # Builds what has changed; silent when nothing has.
-build() { # PRESET TARGET
+build() { # PRESET TARGET...
   {
-    NINJA_STATUS='%p ' cmake --build --preset "$1" --target "$2" --parallel "$(nproc)" 2>&1 |
+    NINJA_STATUS='%p ' cmake --build --preset "$1" --target "${@:2}" --parallel "$(nproc)" 2>&1 |
       sed -u '/^ninja: no work to do/d; /^ *[0-9]*% Re-/d; /^-- /d' | tenths built '^ *([0-9]+)% '
   } 3>&1 || stop "The $1 build failed; the reason is above."
 }
