@@ -77,7 +77,9 @@ int play(const ReplayOptions& options) {
     if (transcript.text().size() >= flushsize) flush(transcript);
   }
   flush(transcript);
-  return std::fflush(stdout) == 0 ? 0 : failure;
+  const bool written = std::fflush(stdout) == 0 && std::ferror(stdout) == 0;
+  if (!written) std::cerr << "duskmarch-replay: the transcript cannot be written\n";
+  return written ? 0 : failure;
 }
 
 }  // namespace
