@@ -70,7 +70,7 @@ int emptywindow(int argc, char** argv) {
 int game(int argc, char** argv) {
   servescreenreaders();
   const QApplication application(argc, argv);
-  FrontEnd frontend;
+  FrontEnd frontend(QCoreApplication::applicationDirPath().toStdString());
   Desktop real = frontend.desktop();
   TimedSystem system(real.system);
   Desktop timed{system, real.window, real.summarylabel, real.storylabel, real.dialogs};

@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QTemporaryDir>
 #include <QTimer>
 #include <string>
 #include <vector>
@@ -71,7 +72,7 @@ class QtWindowTest : public testing::Test {
   QtPage summarylabel{window, "Turn summary"};
   QtPage storylabel{window, "Story"};
   QtDialogs dialogs{window};
-  QtSystem system{window};
+  QtSystem system{window, {}};
   Desktop desktop{system, window, summarylabel, storylabel, dialogs};
   Game game{desktop};
 };
@@ -218,7 +219,8 @@ TEST_F(QtWindowTest, TextStartsAtItsTopLeftCorner) {
 }
 
 TEST(FrontEndTest, PlaysFromTheWelcomeToTheExit) {
-  FrontEnd frontend;
+  const QTemporaryDir folder;  // with settings of its own
+  FrontEnd frontend(folder.path().toStdString());
   Game game(frontend.desktop());
   QTimer player;
   QObject::connect(&player, &QTimer::timeout, [&] {

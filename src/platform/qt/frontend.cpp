@@ -1,17 +1,18 @@
 #include "platform/qt/frontend.h"
 
 #include <QCoreApplication>
+#include <utility>
 
 #include "platform/qt/terminationsignals.h"
 #include "shell/window.h"
 
 namespace duskmarch {
 
-FrontEnd::FrontEnd()
+FrontEnd::FrontEnd(std::filesystem::path folder)
     : summarylabel_(window_, QStringLiteral("Turn summary")),
       storylabel_(window_, QStringLiteral("Story")),
       dialogs_(window_),
-      system_(window_),
+      system_(window_, std::move(folder)),
       desktop_{system_, window_, summarylabel_, storylabel_, dialogs_} {}
 
 void FrontEnd::run(Game& game) {

@@ -1,6 +1,8 @@
 // All of the window that players use, put together.
 #pragma once
 
+#include <filesystem>
+
 #include "game.h"
 #include "platform/desktop.h"
 #include "platform/qt/dialogs.h"
@@ -12,7 +14,8 @@ namespace duskmarch {
 
 class FrontEnd {
  public:
-  FrontEnd();
+  // The program's files are in `folder`.
+  explicit FrontEnd(std::filesystem::path folder);
 
   Desktop& desktop() { return desktop_; }
   // From the game's start-up to its end.

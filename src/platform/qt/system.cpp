@@ -1,10 +1,9 @@
 #include "platform/qt/system.h"
 
-#include <QCoreApplication>
 #include <QTime>
+#include <utility>
 
 #include "debuglog.h"
-#include "platform/qt/text.h"
 #include "platform/sound/decodedmusic.h"
 #include "platform/sound/mixedsounds.h"
 
@@ -15,18 +14,11 @@ namespace {
 // What goes wrong with speech after the call has returned is logged like what goes wrong in it.
 constexpr auto speecherror = "error in sayit: ";
 
-std::filesystem::path executablefolder() {
-  return fromqt(QCoreApplication::applicationDirPath());
-}
-
 }  // namespace
 
-QtSystem::QtSystem(QtWindow& window) : window_(window), output_(log()) {
+QtSystem::QtSystem(QtWindow& window, std::filesystem::path folder)
+    : window_(window), folder_(std::move(folder)), output_(log()) {
   output_.mixer()->addsource(voicestream_);
-}
-
-std::filesystem::path QtSystem::programfolder() const {
-  return executablefolder();
 }
 
 std::uint32_t QtSystem::secondssincemidnight() const {
@@ -51,9 +43,11 @@ std::unique_ptr<MusicGraph> QtSystem::createmusic(const std::filesystem::path& f
 }
 
 std::function<void(std::string_view)> QtSystem::log(std::string_view prefix) {
-  return [&window = window_, prefix = std::string(prefix)](std::string_view line) {
-    const auto write = [whole = prefix + std::string(line)] { logline(executablefolder(), whole); };
-    QMetaObject::invokeMethod(&window, write, Qt::QueuedConnection);
+  return [this, prefix = std::string(prefix)](std::string_view line) {
+    const auto write = [folder = folder_, whole = prefix + std::string(line)] {
+      logline(folder, whole);
+    };
+    QMetaObject::invokeMethod(&window_, write, Qt::QueuedConnection);
   };
 }
 

@@ -1,6 +1,7 @@
 // The program's folder, its clock, and the engines that it can start.
 #pragma once
 
+#include <filesystem>
 #include <functional>
 #include <memory>
 #include <string_view>
@@ -14,9 +15,10 @@ namespace duskmarch {
 
 class QtSystem : public System {
  public:
-  explicit QtSystem(QtWindow& window);
+  // The program's files are in `folder`.
+  QtSystem(QtWindow& window, std::filesystem::path folder);
 
-  std::filesystem::path programfolder() const override;
+  std::filesystem::path programfolder() const override { return folder_; }
   std::uint32_t secondssincemidnight() const override;
   std::unique_ptr<Voice> createvoice() override;
   std::unique_ptr<JawsApi> createjaws() override;
@@ -30,6 +32,7 @@ class QtSystem : public System {
   std::function<void(std::string_view)> log(std::string_view prefix = {});
 
   QtWindow& window_;
+  std::filesystem::path folder_;
   SoundOutput output_;
   std::shared_ptr<SpeechStream> voicestream_ = std::make_shared<SpeechStream>();
 };
