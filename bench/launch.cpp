@@ -34,6 +34,7 @@ class TimedVoice : public Voice {
   void setrate(int) override {}
   void speak(std::string_view) override { report(); }
   void speakafter(std::string_view) override { report(); }
+  void hush() override {}
 };
 
 // The real system, but its voice tells the time instead. The real one is made all the same.

@@ -99,6 +99,8 @@ class Voice {
   virtual void speak(std::string_view text) = 0;
   // Says `text` after what is being said; the next speak() cuts it off like anything else.
   virtual void speakafter(std::string_view text) = 0;
+  // Cuts off what is being said: another engine speaks from now on.
+  virtual void hush() = 0;
 };
 
 // The speech engine of mode 3: JAWS on Windows, the system's speech service on Linux.

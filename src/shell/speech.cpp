@@ -129,6 +129,7 @@ void loadjaws(Game& game) {
 }
 
 void switchengine(Game& game) {
+  if (game.speechmode == 0 && game.sapiready == 1) game.sapivoice->hush();
   game.speechmode = (game.speechmode + 1) % 4;
   switch (game.speechmode) {
     case 0:

@@ -1,5 +1,6 @@
 // The window, its pages and its boxes, under real key events.
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QDialog>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -12,6 +13,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/qt/frontend.h"
+#include "shell/speech.h"
 
 namespace duskmarch {
 
@@ -35,6 +37,7 @@ class Recorder : public Voice {
   void setrate(int) override {}
   void speak(std::string_view text) override { said_.emplace_back(text); }
   void speakafter(std::string_view text) override { said_.emplace_back(text); }
+  void hush() override { said_.emplace_back(""); }
 
  private:
   std::vector<std::string>& said_;
@@ -143,12 +146,39 @@ TEST_F(QtWindowTest, InputBoxEchoesAndReturnsWhatIsTyped) {
     type(field, "ab");
     press(field, Qt::Key_Home);
     type(field, "c");
+    press(field, Qt::Key_Right);
+    press(field, Qt::Key_Delete);
+    press(field, Qt::Key_Home, {}, Qt::ShiftModifier);
+    type(field, "x");
     press(field, Qt::Key_Return);
   });
-  EXPECT_EQ(dialogs.input("Name", "What is the name?"), "cab");
-  EXPECT_EQ(said, (Texts{"a", "b", "c"}));
+  EXPECT_EQ(dialogs.input("Name", "What is the name?"), "x");
+  // Typed, what the caret came to, taken away, and typed over what was selected.
+  EXPECT_EQ(said, (Texts{"a", "b", "a", "c", "b", "b", "c", "x"}));
   window.processevents();
   EXPECT_TRUE(window.hasFocus());
+}
+
+TEST_F(QtWindowTest, TheMenuKeyOpensNothing) {
+  const auto askformenu = [](QWidget* widget) {
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, {}, {});
+    QCoreApplication::sendEvent(widget, &event);
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+  };
+  storylabel.show("Text");
+  askformenu(pageview());
+  inbox([=](QWidget* field) {
+    askformenu(field);
+    press(field, Qt::Key_Escape);
+  });
+  dialogs.input("Name", "What is the name?");
+}
+
+TEST_F(QtWindowTest, TheVoiceFallsSilentForAnotherEngine) {
+  const QTemporaryDir folder;  // for the settings
+  game.programfolder = folder.path().toStdString();
+  switchengine(game);
+  EXPECT_EQ(said, (Texts{""}));
 }
 
 TEST_F(QtWindowTest, InputBoxGetsWhatIsTypedBeforeItIsActive) {

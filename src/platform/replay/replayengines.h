@@ -16,6 +16,7 @@ class ReplayVoice final : public Voice {
   void setrate(int rate) override { transcript_.event("rate", rate); }
   void speak(std::string_view text) override { transcript_.event("voice", text); }
   void speakafter(std::string_view text) override { transcript_.event("voice", text); }
+  void hush() override {}
 
  private:
   Transcript& transcript_;

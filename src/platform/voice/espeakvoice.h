@@ -25,6 +25,7 @@ class EspeakVoice final : public Voice {
   void setrate(int rate) override;
   void speak(std::string_view text) override;
   void speakafter(std::string_view text) override;
+  void hush() override { speak({}); }
 
   // Whether everything asked for has gone into the stream.
   bool idle() const;
