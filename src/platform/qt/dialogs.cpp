@@ -7,6 +7,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <ranges>
+#include <utility>
 
 #include "platform/qt/text.h"
 #include "shell/selfreading.h"
@@ -45,31 +47,49 @@ class Box : public QDialog {
   QVBoxLayout layout_;
 };
 
-// What `now` has more than `before`, which differs from it in one place.
-QString typed(const QString& before, const QString& now) {
-  const auto added = now.size() - before.size();
-  if (added <= 0) return {};
-  const auto [changed, ignored] =
-      std::mismatch(now.begin(), now.end(), before.begin(), before.end());
-  return now.mid(changed - now.begin(), added);
+// What was typed to make `now` of `before`, which differ in one place; or what was taken away.
+QString difference(const QString& before, const QString& now) {
+  const auto start = std::ranges::mismatch(before, now);
+  const std::ranges::subrange beforetail(start.in1, before.end());
+  const std::ranges::subrange nowtail(start.in2, now.end());
+  const auto end =
+      std::ranges::mismatch(beforetail | std::views::reverse, nowtail | std::views::reverse);
+  const QString typed(start.in2, end.in2.base() - start.in2);
+  return typed.isEmpty() ? QString(start.in1, end.in1.base() - start.in1) : typed;
 }
 
-void echo(Game& game, QLineEdit& field) {
-  QObject::connect(
-      &field, &QLineEdit::textEdited, [&game, before = QString()](const QString& now) mutable {
-        if (const QString added = typed(std::exchange(before, now), now); !added.isEmpty()) {
-          echotyped(game, fromqt(added));
-        }
-      });
-}
+// A line to type in that tells what it hears, as a screen reader would.
+class Field : public QLineEdit {
+ public:
+  explicit Field(Game* game) : game_(game) {
+    setContextMenuPolicy(Qt::NoContextMenu);  // it would take the keys, unheard
+    connect(this, &QLineEdit::textEdited, this,
+            [this](const QString& now) { echo(difference(std::exchange(before_, now), now)); });
+  }
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    const QString unchanged = text();
+    const int place = cursorPosition();
+    QLineEdit::keyPressEvent(event);
+    if (text() == unchanged && cursorPosition() != place) echo(text().mid(cursorPosition(), 1));
+  }
+
+ private:
+  void echo(const QString& letters) {
+    if (game_ != nullptr && !letters.isEmpty()) echotyped(*game_, fromqt(letters));
+  }
+
+  Game* game_;
+  QString before_;
+};
 
 }  // namespace
 
 std::string QtDialogs::input(std::string_view title, std::string_view prompt) {
   Box box(window_, title, prompt, QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
-  QLineEdit field;
+  Field field(window_.game());
   box.add(field);
-  if (Game* game = window_.game()) echo(*game, field);
   window_.runmodal(box);
   return box.result() == QDialog::Accepted ? fromqt(field.text()) : std::string();
 }

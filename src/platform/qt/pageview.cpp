@@ -71,6 +71,7 @@ PageView::PageView(QtWindow& window, const QString& name)
   setReadOnly(true);
   // Read-only alone would take no caret keys.
   setTextInteractionFlags(Qt::TextSelectableByKeyboard | Qt::TextSelectableByMouse);
+  setContextMenuPolicy(Qt::NoContextMenu);  // it would take the keys, unheard
   setFont(pagefont());
   setPalette(yellowonblack(palette()));
   setFrameShape(QFrame::NoFrame);
