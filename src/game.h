@@ -137,7 +137,7 @@ struct Game {
   CrashTrace trace;
   bool leaving = false;           // the player has chosen to end the program
   bool ended = false;             // the program is ending; no key acts any more
-  bool writefailuretold = false;  // the player knows that the folder cannot be written to
+  bool writefailuretold = false;  // the player knows that settings are not saved
 
   // Speech.
   int speechmode = 0;

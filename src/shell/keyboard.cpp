@@ -18,6 +18,7 @@
 #include "shell/nexthero.h"
 #include "shell/pages.h"
 #include "shell/speech.h"
+#include "shell/speechsettings.h"
 #include "world/drawnmap.h"
 #include "world/mapspeech.h"
 #include "world/tables.h"

@@ -28,10 +28,8 @@ std::optional<int> setting(std::string_view line, int least, int most) {
   return static_cast<int>(value);
 }
 
-bool writesettings(const Game& game) {
-  std::ofstream file(
-      findfile(game.programfolder, progressfile).value_or(game.programfolder / progressfile),
-      std::ios::binary | std::ios::trunc);
+bool write(const Game& game, const std::filesystem::path& path) {
+  std::ofstream file(path, std::ios::binary | std::ios::trunc);
   file << numberline(game.speechmode) << "\r\n"
        << numberline(game.sapirate) << "\r\n"
        << game.progressspare << "\r\n";
@@ -41,12 +39,18 @@ bool writesettings(const Game& game) {
 
 }  // namespace
 
-void saveprogress(Game& game) {
-  if (writesettings(game) || game.writefailuretold) return;
-  game.writefailuretold = true;
-  sayit(game,
-        "Your speech settings cannot be saved, because the game's folder cannot be written to.  "
-        "The game goes on without saving.");
+bool saveprogress(const Game& game) {
+  const std::filesystem::path file =
+      findfile(game.programfolder, progressfile).value_or(game.programfolder / progressfile);
+  std::filesystem::path fresh = file;
+  fresh += ".new";
+  std::error_code error;
+  if (write(game, fresh)) {
+    std::filesystem::rename(fresh, file, error);
+    if (!error) return true;
+  }
+  std::filesystem::remove(fresh, error);
+  return false;
 }
 
 void readprogress(Game& game) {

@@ -5,9 +5,9 @@
 
 namespace duskmarch {
 
-// Rewrites the file from `speechmode`, `sapirate` and `progressspare`. The player is told of the
-// first time that it cannot be written.
-void saveprogress(Game& game);
+// Rewrites the file from `speechmode`, `sapirate` and `progressspare`; whether that could be done.
+// When it could not, what was there is there still.
+bool saveprogress(const Game& game);
 // Takes over what the file holds, and gives the voice its rate; what is missing or makes no sense
 // keeps its start value.
 void readprogress(Game& game);

@@ -4,9 +4,7 @@
 #include <cmath>
 #include <string>
 
-#include "audio/sounds.h"
 #include "debuglog.h"
-#include "shell/progress.h"
 #include "values/utf8.h"
 
 namespace duskmarch {
@@ -15,10 +13,6 @@ namespace {
 
 constexpr Colour black{0, 0, 0};
 constexpr Colour white{255, 255, 255};
-
-std::string restingtitle(const Game& game) {
-  return "Quorvane's Duskmarch (v" + game.version + ")";
-}
 
 // Runs one step of sayit(); what goes wrong in it costs that step alone.
 template <typename Step>
@@ -126,35 +120,6 @@ void loadjaws(Game& game) {
   } catch (const PlatformError&) {
     game.jawsready = 0;
   }
-}
-
-void switchengine(Game& game) {
-  if (game.speechmode == 0 && game.sapiready == 1) game.sapivoice->hush();
-  game.speechmode = (game.speechmode + 1) % 4;
-  switch (game.speechmode) {
-    case 0:
-      settitle(game, restingtitle(game));
-      playeffect(game, "/sounds/Menu/SAPI.wav");
-      break;
-    case 1: playeffect(game, "/sounds/Menu/NVDA.wav"); break;
-    case 2: playeffect(game, "/sounds/Menu/WE.wav"); break;
-    default:
-      settitle(game, restingtitle(game));
-      if (game.jawsready == 1) {
-        playeffect(game, "/sounds/Menu/JAWS.wav");
-      } else {
-        game.speechmode = 0;
-        sayit(game, "Jaws does not seem to be responding, Sapi on.");
-      }
-  }
-  saveprogress(game);
-}
-
-void changerate(Game& game, int step) {
-  game.sapirate = std::clamp(game.sapirate + step, 1, 10);
-  giverate(game);
-  sayit(game, "Sapi rate changed to " + std::to_string(game.sapirate) + ".");
-  saveprogress(game);
 }
 
 void reviewhistory(Game& game, KeyPress press) {

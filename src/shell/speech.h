@@ -20,10 +20,6 @@ void sayit(Game& game, std::string_view text);
 void setupsapi(Game& game);
 void loadjaws(Game& game);
 
-// The next speech engine, announced by its sound, and saved.
-void switchengine(Game& game);
-// A faster (+1) or slower (-1) voice, announced and saved.
-void changerate(Game& game, int step);
 // Steps through what was said; `keycode` is one of the review keys.
 void reviewhistory(Game& game, KeyPress key);
 

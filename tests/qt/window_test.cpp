@@ -13,7 +13,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/qt/frontend.h"
-#include "shell/speech.h"
+#include "shell/speechsettings.h"
 
 namespace duskmarch {
 
