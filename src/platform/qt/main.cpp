@@ -25,6 +25,7 @@ int main(int argc, char** argv) {
   std::signal(SIGPIPE, SIG_IGN);  // a speech service that dies must not take the game with it
   duskmarch::servescreenreaders();
   const QApplication application(argc, argv);
+  QApplication::setApplicationName(QStringLiteral("Duskmarch"));  // shown for an empty title
   const std::filesystem::path folder = programfolder();
   duskmarch::FrontEnd frontend(folder);
   duskmarch::Game game(frontend.desktop());
