@@ -159,6 +159,27 @@ TEST_F(QtWindowTest, InputBoxEchoesAndReturnsWhatIsTyped) {
   EXPECT_TRUE(window.hasFocus());
 }
 
+TEST_F(QtWindowTest, AHeldEnterGivesNoOrders) {
+  const auto hold = [](QWidget* where, int key) {
+    QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier, {}, true);
+    QCoreApplication::sendEvent(where, &event);
+  };
+  for (const int key : {Qt::Key_Down, Qt::Key_Return, Qt::Key_Space}) hold(&window, key);
+  EXPECT_EQ(keys(), (Texts{"40"}));
+  inbox([=](QWidget* field) {
+    QCoreApplication::processEvents();  // which makes the box the active window
+    hold(field, Qt::Key_Return);
+    type(field, "n");
+    press(field, Qt::Key_Control);
+    press(field, Qt::Key_Tab);
+    press(QApplication::focusWidget(), Qt::Key_Return);
+  });
+  EXPECT_EQ(dialogs.input("Name", "What is the name?"), "n");
+  EXPECT_EQ(said.front(), "n");
+  EXPECT_EQ(said.at(1), "");
+  EXPECT_EQ(said.back(), "OK");
+}
+
 TEST_F(QtWindowTest, TheMenuKeyOpensNothing) {
   const auto askformenu = [](QWidget* widget) {
     QContextMenuEvent event(QContextMenuEvent::Keyboard, {}, {});

@@ -1,7 +1,9 @@
 #include "platform/qt/dialogs.h"
 
+#include <QApplication>
 #include <QDialog>
 #include <QDialogButtonBox>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -10,6 +12,7 @@
 #include <ranges>
 #include <utility>
 
+#include "platform/qt/keymap.h"
 #include "platform/qt/text.h"
 #include "shell/selfreading.h"
 
@@ -20,9 +23,12 @@ namespace {
 // A text, what it is about, and the buttons.
 class Box : public QDialog {
  public:
-  Box(QWidget& parent, std::string_view title, std::string_view text,
+  Box(QtWindow& parent, std::string_view title, std::string_view text,
       QDialogButtonBox::StandardButtons buttons)
-      : QDialog(&parent), text_(toqt(text).replace(u'&', QStringLiteral("&&"))), layout_(this) {
+      : QDialog(&parent),
+        game_(parent.game()),
+        text_(toqt(text).replace(u'&', QStringLiteral("&&"))),
+        layout_(this) {
     setWindowTitle(title.empty() ? QStringLiteral("Duskmarch") : toqt(title));
     text_.setTextFormat(Qt::PlainText);
     text_.setWordWrap(true);
@@ -33,6 +39,8 @@ class Box : public QDialog {
     text_.setBuddy(buttons_.button(QDialogButtonBox::Ok));
     connect(&buttons_, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(&buttons_, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    connect(qApp, &QApplication::focusChanged, this, &Box::tellfocus);
+    qApp->installEventFilter(this);
   }
 
   void add(QWidget& field) {
@@ -41,7 +49,27 @@ class Box : public QDialog {
     field.setFocus();
   }
 
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() != QEvent::KeyPress) return false;
+    const auto& key = static_cast<const QKeyEvent&>(*event);
+    if (key.key() == Qt::Key_Control) tell({});
+    return isheldtoolong(key);
+  }
+
+  // What a screen reader would say of it, where there is none; an empty text silences the voice.
+  void tell(const QString& text) {
+    if (game_ != nullptr) echotyped(*game_, fromqt(text));
+  }
+
  private:
+  // Moving on inside the box; of the box itself, title and text tell.
+  void tellfocus(QWidget* before, QWidget* now) {
+    if (!isAncestorOf(before) || !isAncestorOf(now)) return;
+    if (const auto* button = qobject_cast<QPushButton*>(now)) tell(button->text().remove(u'&'));
+    if (const auto* field = qobject_cast<QLineEdit*>(now)) tell(field->text());
+  }
+
+  Game* game_;
   QLabel text_;
   QDialogButtonBox buttons_;
   QVBoxLayout layout_;
@@ -61,10 +89,11 @@ QString difference(const QString& before, const QString& now) {
 // A line to type in that tells what it hears, as a screen reader would.
 class Field : public QLineEdit {
  public:
-  explicit Field(Game* game) : game_(game) {
+  explicit Field(Box& box) : box_(box) {
     setContextMenuPolicy(Qt::NoContextMenu);  // it would take the keys, unheard
-    connect(this, &QLineEdit::textEdited, this,
-            [this](const QString& now) { echo(difference(std::exchange(before_, now), now)); });
+    connect(this, &QLineEdit::textEdited, this, [this](const QString& now) {
+      box_.tell(difference(std::exchange(before_, now), now));
+    });
   }
 
  protected:
@@ -72,15 +101,12 @@ class Field : public QLineEdit {
     const QString unchanged = text();
     const int place = cursorPosition();
     QLineEdit::keyPressEvent(event);
-    if (text() == unchanged && cursorPosition() != place) echo(text().mid(cursorPosition(), 1));
+    const QString came = text().mid(cursorPosition(), 1);
+    if (text() == unchanged && cursorPosition() != place && !came.isEmpty()) box_.tell(came);
   }
 
  private:
-  void echo(const QString& letters) {
-    if (game_ != nullptr && !letters.isEmpty()) echotyped(*game_, fromqt(letters));
-  }
-
-  Game* game_;
+  Box& box_;
   QString before_;
 };
 
@@ -88,7 +114,7 @@ class Field : public QLineEdit {
 
 std::string QtDialogs::input(std::string_view title, std::string_view prompt) {
   Box box(window_, title, prompt, QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
-  Field field(window_.game());
+  Field field(box);
   box.add(field);
   window_.runmodal(box);
   return box.result() == QDialog::Accepted ? fromqt(field.text()) : std::string();

@@ -138,4 +138,9 @@ std::optional<KeyPress> virtualkey(const QKeyEvent& event) {
   return virtualkey({event.key(), event.nativeScanCode(), event.modifiers()});
 }
 
+bool isheldtoolong(const QKeyEvent& event) {
+  constexpr std::array acting = {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space};
+  return event.isAutoRepeat() && std::ranges::find(acting, event.key()) != acting.end();
+}
+
 }  // namespace duskmarch

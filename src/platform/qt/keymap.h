@@ -22,5 +22,8 @@ struct PressedKey {
 // that goes with another key.
 std::optional<KeyPress> virtualkey(const PressedKey& pressed);
 std::optional<KeyPress> virtualkey(const QKeyEvent& event);
+// Whether an Enter or a Space comes again because it is held: nobody means to give an order twice
+// that way, least of all one not yet read out.
+bool isheldtoolong(const QKeyEvent& event);
 
 }  // namespace duskmarch

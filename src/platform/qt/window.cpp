@@ -44,6 +44,7 @@ void QtWindow::uncovered() {
 }
 
 bool QtWindow::takekey(QKeyEvent& event) {
+  if (isheldtoolong(event)) return true;
   // A box that has been opened is not active at once; what the player types ahead belongs to it.
   if (box_ != nullptr) {
     QWidget* inside = box_->focusWidget();
