@@ -5,6 +5,7 @@
 #include "heroturn/messagelog.h"
 #include "resolution/tags.h"
 #include "values/namelist.h"
+#include "world/furniture.h"
 #include "world/narration.h"
 #include "world/tables.h"
 
@@ -12,16 +13,12 @@ namespace duskmarch {
 
 namespace {
 
-constexpr int tabledamage = 6;
-constexpr int chairdamage = 4;
-
 // The piece of furniture on the hero's tile; null when there is none.
 Item* furniturehere(Game& game, const Mob& hero, std::string_view name) {
   const int slot = finditem(game, hero.mobx, hero.moby, name);
   return slot == 0 ? nullptr : &game.item(slot);
 }
 
-// It moves to where it hits, and suffers from it.
 bool enemyon(const Mob& mob, Tile tile) {
   return conscious(mob) && mob.aliance == aliance::enemies && at(mob, tile.x, tile.y);
 }
@@ -90,10 +87,11 @@ void option::throwtable(Game& game, Mob& hero, const Direction& direction) {
     creditknockout(hero);
   }
   crash(*table, landing);
+  const std::string knockedover = sentence({" knocked over by the incoming table, suffering ",
+                                            std::to_string(tabledamage), " damage.  "});
   std::string line = sentence(
       {hero.mobname, " lifts and throws a table ", direction.word, ".  ",
-       joinnames(hit, " was knocked over by the incoming table, suffering 6 damage.  ",
-                 " were knocked over by the incoming table, suffering 6 damage.  "),
+       joinnames(hit, " was" + knockedover, " were" + knockedover),
        joinnames(knockedout, " was knocked unconscious.  ", " were knocked unconscious.  ")});
   if (!onthemap(*table)) line += "The table has splintered into scraps of wood.  ";
   list1additem(game, line);
@@ -108,7 +106,8 @@ void option::throwchair(Game& game, Mob& hero, const Direction& direction) {
   if (Mob* const victim = firstenemy(game, hero, direction)) {
     victim->health -= chairdamage;
     knockover(*victim);
-    line += victim->mobname + " was hit by it and suffered 4 damage.  ";
+    line += sentence({victim->mobname, " was hit by it and suffered ", std::to_string(chairdamage),
+                      " damage.  "});
     if (!conscious(*victim)) {
       line += victim->mobname + " was knocked unconscious by the impact.  ";
       creditknockout(hero);

@@ -7,6 +7,7 @@
 #include "resolution/tags.h"
 #include "values/namelist.h"
 #include "world/directions.h"
+#include "world/furniture.h"
 #include "world/narration.h"
 #include "world/tables.h"
 
@@ -14,8 +15,6 @@ namespace duskmarch {
 
 namespace {
 
-constexpr int tabledamage = 6;
-constexpr int chairdamage = 4;
 constexpr std::string_view throwopening = "Throw ";
 
 // What an entry such as "[Throw chair North]" asks for; without a direction, nothing.
@@ -150,7 +149,8 @@ void throwchair(Game& game, int t, const Direction& direction) {
     daze(hero);
     hero.action.clear();
     crash(game.item(slot), tileof(hero));
-    report += hero.mobname + " was hit by it and suffered 4 damage.  ";
+    report += sentence(
+        {hero.mobname, " was hit by it and suffered ", std::to_string(chairdamage), " damage.  "});
     if (!conscious(hero)) report += hero.mobname + " was knocked unconscious by the impact.  ";
   }
   list1additem(game, report);

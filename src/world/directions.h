@@ -66,11 +66,5 @@ inline void place(Mob& mob, Tile tile) {
   mob.mobx = tile.x;
   mob.moby = tile.y;
 }
-// Thrown furniture comes down on a tile, the worse for it.
-inline void crash(Item& item, Tile tile) {
-  item.itemx = tile.x;
-  item.itemy = tile.y;
-  item.itemhealth -= 1;
-}
 
 }  // namespace duskmarch
