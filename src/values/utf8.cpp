@@ -12,30 +12,6 @@ unsigned byteat(std::string_view text, std::size_t at) {
   return static_cast<unsigned char>(text[at]);
 }
 
-struct CodePoint {
-  char32_t value = 0;
-  std::size_t size = 1;
-};
-
-// Stray bytes come back as values beyond every code point, so that they equal only themselves.
-CodePoint codepointat(std::string_view text, std::size_t at) {
-  const unsigned lead = byteat(text, at);
-  if (lead < 0x80) return {lead, 1};
-  const CodePoint stray = {0x110000 + lead, 1};
-  const std::size_t size = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
-  if (lead < 0xC2 || lead > 0xF4 || size > text.size() - at) return stray;
-  char32_t value = lead & (0x7Fu >> size);
-  for (std::size_t n = 1; n < size; ++n) {
-    const unsigned next = byteat(text, at + n);
-    if (next >> 6 != 2) return stray;
-    value = value << 6 | (next & 0x3Fu);
-  }
-  const bool toolong = size == 3 ? value < 0x800 : size == 4 && value < 0x10000;
-  const bool surrogate = value >= 0xD800 && value <= 0xDFFF;
-  if (toolong || surrogate || value > 0x10FFFF) return stray;
-  return {value, size};
-}
-
 // A locale of our own: the global one belongs to the toolkits.
 std::locale unicodelocale() {
   try {
@@ -54,6 +30,24 @@ char32_t foldcase(char32_t letter) {
 }
 
 }  // namespace
+
+CodePoint codepointat(std::string_view text, std::size_t at) {
+  const unsigned lead = byteat(text, at);
+  if (lead < 0x80) return {lead, 1};
+  const CodePoint stray = {firststray + lead, 1};
+  const std::size_t size = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
+  if (lead < 0xC2 || lead > 0xF4 || size > text.size() - at) return stray;
+  char32_t value = lead & (0x7Fu >> size);
+  for (std::size_t n = 1; n < size; ++n) {
+    const unsigned next = byteat(text, at + n);
+    if (next >> 6 != 2) return stray;
+    value = value << 6 | (next & 0x3Fu);
+  }
+  const bool toolong = size == 3 ? value < 0x800 : size == 4 && value < 0x10000;
+  const bool surrogate = value >= 0xD800 && value <= 0xDFFF;
+  if (toolong || surrogate || value > 0x10FFFF) return stray;
+  return {value, size};
+}
 
 std::size_t codepointsize(std::string_view text, std::size_t at) {
   return codepointat(text, at).size;

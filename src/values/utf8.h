@@ -7,6 +7,16 @@
 
 namespace duskmarch {
 
+struct CodePoint {
+  char32_t value = 0;
+  std::size_t size = 1;  // in bytes
+};
+
+// One beyond all code points is a stray byte, which equals only itself.
+inline constexpr char32_t firststray = 0x110000;
+
+// The code point that starts at `text[at]`.
+CodePoint codepointat(std::string_view text, std::size_t at);
 // The number of code points; a byte that belongs to none counts as one.
 std::size_t codepoints(std::string_view text);
 // Bytes of the code point that starts at `text[at]`; at least 1.
