@@ -21,6 +21,7 @@
 #include "shell/speechsettings.h"
 #include "world/drawnmap.h"
 #include "world/mapspeech.h"
+#include "world/narration.h"
 #include "world/tables.h"
 
 namespace duskmarch {
@@ -37,15 +38,15 @@ bool isone(const std::array<int, size>& keys, int keycode) {
   return std::ranges::find(keys, keycode) != keys.end();
 }
 
-std::string selectedat(const Game& game) {
-  const Mob& hero = game.mob(game.selected);
-  return hero.mobname + " selected at location " + saycoords(hero.mobx) + " " +
-         std::to_string(int{hero.moby}) + ".";
+std::string selectedat(const Mob& hero) {
+  return sentence(
+      {" selected at location ", saycoords(hero.mobx), " ", std::to_string(int{hero.moby}), "."});
 }
 
 // The option list takes the keys, before its first entry.
 void enteroptions(Game& game) {
-  sayit(game, selectedat(game));
+  const Mob& hero = game.mob(game.selected);
+  sayit(game, hero.mobname + selectedat(hero));
   listoptions(game, 0);
   game.menuname = screen::options;
   game.menupos = 0;
@@ -108,9 +109,7 @@ void selectnexthero(Game& game) {
   if (at(hero, game.cursorx, game.cursory)) {
     return selecthero(game, next, " selected at this location.");
   }
-  selecthero(
-      game, next,
-      " selected at location " + saycoords(hero.mobx) + " " + std::to_string(int{hero.moby}) + ".");
+  selecthero(game, next, selectedat(hero));
 }
 
 void askforendofturn(Game& game, int shift) {
