@@ -1,10 +1,10 @@
 // Every option of a hero, performed: what it changes, and the line that tells of it.
-#include <fstream>
 #include <string>
 #include <vector>
 
 #include <gtest/gtest.h>
 
+#include "cases.h"
 #include "ground.h"
 #include "harness.h"
 #include "heroturn/options.h"
@@ -23,34 +23,16 @@ void arrangefor(Game& game, const std::string& ground, const std::string& option
   if (option.find(' ') != std::string::npos) give(game, 1, option, 1);
 }
 
-struct Case {
+// "Move (N)": an option, and what is answered to its question for a direction.
+struct Order {
   std::string option;
-  std::string answer;  // to the question for a direction
-  std::string before;
-  std::string log;  // oldest line first
-  std::string after;
+  std::string answer;
 };
 
-void PrintTo(const Case& c, std::ostream* out) {
-  *out << c.option << " " << c.answer << ": " << c.before;
-}
-
-std::vector<Case> readcases() {
-  std::vector<Case> cases;
-  std::ifstream file(TEST_FOLDER "/abilities.txt");
-  for (std::string first, line, after; std::getline(file, first);) {
-    if (first.empty() || first.starts_with('#')) continue;
-    std::getline(file, line);
-    std::getline(file, after);
-    Case c{first.substr(0, first.find(": ")), "", first.substr(first.find(": ") + 2),
-           line == "  -" ? "" : line.substr(2), after.substr(2)};
-    if (const auto bracket = c.option.find(" ("); bracket != std::string::npos) {
-      c.answer = c.option.substr(bracket + 2, 1);
-      c.option.erase(bracket);
-    }
-    cases.push_back(c);
-  }
-  return cases;
+Order readorder(const std::string& what) {
+  const auto bracket = what.find(" (");
+  if (bracket == std::string::npos) return {what, ""};
+  return {what.substr(0, bracket), what.substr(bracket + 2, 1)};
 }
 
 class Abilities : public testing::TestWithParam<Case> {};
@@ -58,19 +40,20 @@ class Abilities : public testing::TestWithParam<Case> {};
 TEST_P(Abilities, ChangeAndTellWhatTheirRuleSays) {
   const Case& c = GetParam();
   Player player;
-  arrangefor(player.game(), c.before, c.option);
-  player.answer(c.answer);
-  const auto spoken = player.spoken([&] { dooption(player.game(), c.option); });
+  const auto [option, answer] = readorder(c.what);
+  arrangefor(player.game(), c.before, option);
+  player.answer(answer);
+  const auto spoken = player.spoken([&] { dooption(player.game(), option); });
   std::string log;
   for (const std::string& line : player.game().list1) log = line + (log.empty() ? "" : " / ") + log;
-  EXPECT_EQ(log, c.log);
+  EXPECT_EQ(log, c.told);
   EXPECT_EQ(described(player.game()), c.after);
   if (!log.empty()) {
     EXPECT_EQ(spoken.back(), player.game().list1.front());
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Options, Abilities, testing::ValuesIn(readcases()));
+INSTANTIATE_TEST_SUITE_P(Options, Abilities, testing::ValuesIn(readcases("abilities.txt")));
 
 // The question for a direction, and what is refused.
 
