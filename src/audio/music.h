@@ -1,5 +1,6 @@
-// Two players for background music from MP3 files. What fails does so quietly: nothing is spoken or
-// logged. Volumes are percentages where a file is loaded, hundredths of a decibel elsewhere.
+// Two players for background music from MP3 files, ready for missions that bring some. What fails
+// does so quietly: nothing is spoken or logged. Volumes are percentages where a file is loaded,
+// hundredths of a decibel elsewhere.
 #pragma once
 
 #include <string_view>

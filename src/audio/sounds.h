@@ -21,7 +21,8 @@ void setsound(Game& game, int buffer, std::string& name);
 void setvol(Game& game, int buffer, double& volume);
 void setpan(Game& game, int buffer, double& pan);
 
-// Table lookups of the sine and cosine of an angle in radians.
+// Table lookups of the sine and cosine of an angle in radians, for sounds placed around the player;
+// none is yet.
 double quicksin(Game& game, double angle);
 double quickcos(Game& game, double angle);
 // Fills `sintable` and `costable`.

@@ -5,7 +5,8 @@
 
 namespace duskmarch {
 
-// Starts mission `missionnumber`; a number without a mission starts nothing but the turn count.
+// Starts mission `missionnumber`. A number without a mission has no map, story, heroes' places or
+// enemies of its own; the heroes are made ready all the same.
 void startusout(Game& game);
 // Decides victory and defeat; called each time the turn summary is closed during a mission.
 void endcheck(Game& game);
