@@ -111,6 +111,7 @@ moved() { # PRESET
 configure() { # PRESET [CMAKE-OPTION...]
   local folder=build/$1 options=("${@:2}")
   needtools || stop "So nothing can be built."
+  [[ $PWD != *[][]* ]] || stop "The name of a folder above holds a bracket, and CMake finds nothing there."
   command -v ccache >/dev/null && options+=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
   moved "$1" && rm -rf "$folder/CMakeCache.txt" "$folder/CMakeFiles"
   mkdir -p build

@@ -39,7 +39,8 @@ Samples recorded(const ProgramFolder& folder, Action action) {
     [[maybe_unused]] const auto kept = action(output);
     const auto count = std::make_shared<FrameCount>(mixrate / 2);
     output.mixer()->addsource(count);
-    count->reached.get_future().wait();
+    EXPECT_EQ(count->reached.get_future().wait_for(std::chrono::minutes(1)),
+              std::future_status::ready);
   }
   const std::string bytes = folder.read("device.raw");
   Samples samples(bytes.size() / sizeof(float));

@@ -1,4 +1,6 @@
 // Mode 3's speech service: what it is told, and how it is survived.
+#include <algorithm>
+
 #include <gtest/gtest.h>
 
 #include "fakeservice.h"
@@ -23,6 +25,11 @@ class SpeechServiceTest : public testing::Test {
     const std::lock_guard guard(mutex_);
     return logged_;
   }
+  // How often the service was told to be lost. A machine that stands still for a second may make it
+  // look hung as well; that is no fault.
+  auto losses() {
+    return std::ranges::count(logged(), "the connection to the speech service was lost");
+  }
   bool asked(const Texts& texts) {
     return eventually([&] { return service_.asked() == texts; });
   }
@@ -43,7 +50,7 @@ class SpeechServiceTest : public testing::Test {
 TEST_F(SpeechServiceTest, SaysOneTextAfterTheOther) {
   for (const char* text : {"One.", "", "two\x01three", "."}) jaws_->saystring(text);
   EXPECT_TRUE(asked({"One.", "two three", ".."}));  // a line's first dot is doubled on the way
-  EXPECT_EQ(logged(), Texts());
+  EXPECT_EQ(losses(), 0);
 }
 
 TEST_F(SpeechServiceTest, AKeyCutsOffOnlyWhatIsBeingSaid) {
@@ -66,7 +73,7 @@ TEST_F(SpeechServiceTest, SaysTheLatestTextWhenTheServiceIsBack) {
   EXPECT_TRUE(eventually([&] { return !logged().empty(); }));
   service_.start();
   EXPECT_TRUE(asked({"One.", "Three."}));
-  EXPECT_EQ(logged(), Texts({"the connection to the speech service was lost"}));
+  EXPECT_EQ(losses(), 1);
 }
 
 TEST_F(SpeechServiceTest, AFrozenServiceIsReportedAndSpeaksAgain) {
