@@ -11,7 +11,8 @@ void startup(Game& game);
 // The surface must be redrawn.
 void repaint(Game& game);
 
-// What buttons do in a front end that shows some: end the turn; perform the option at the menu position; select the next living hero.
+// What buttons do in a front end that shows some: end the turn; perform the option at the menu
+// position; select the next living hero.
 void command1_click(Game& game);
 void command2_click(Game& game);
 void command3_click(Game& game);
