@@ -6,7 +6,7 @@
 namespace duskmarch {
 
 void logline(const std::filesystem::path& programfolder, std::string_view line) {
-  std::ofstream log(programfolder / "debuglog.txt", std::ios::app | std::ios::binary);
+  std::ofstream log(programfolder / logfile, std::ios::app | std::ios::binary);
   log << line << "\r\n";
 }
 

@@ -8,6 +8,8 @@
 
 namespace duskmarch {
 
+inline constexpr std::string_view logfile = "debuglog.txt";
+
 // Appends one line; a log that cannot be written is not missed.
 void logline(const std::filesystem::path& programfolder, std::string_view line);
 // Appends "error in " + procedure + ": " + description.

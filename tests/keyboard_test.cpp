@@ -28,11 +28,21 @@ TEST(StartUp, FillsTheBuffersAndWelcomes) {
   EXPECT_FALSE(std::filesystem::exists(player.folder().path / "progress.ini"));
 }
 
-TEST(StartUp, ACrashIsReportedInTheLog) {
+TEST(StartUp, ACrashIsReportedInTheLogOnce) {
   ProgramFolder folder;
   folder.write("crash.txt", "seed 1\n");
-  Player player({.folder = folder.path});
-  EXPECT_NE(folder.read("debuglog.txt").find("crash.txt"), std::string::npos);
+  const auto anhourago = std::filesystem::file_time_type::clock::now() - std::chrono::hours(1);
+  std::filesystem::last_write_time(folder.path / "crash.txt", anhourago);
+  const auto logafterstart = [&folder] {
+    const Player player({.folder = folder.path});
+    return folder.read("debuglog.txt");
+  };
+  const std::string once = logafterstart();
+  EXPECT_NE(once.find("crash.txt"), std::string::npos);
+  EXPECT_EQ(logafterstart(), once);
+  const auto inanhour = anhourago + std::chrono::hours(2);
+  std::filesystem::last_write_time(folder.path / "crash.txt", inanhour);
+  EXPECT_EQ(logafterstart(), once + once) << "a new crash";
 }
 
 TEST(Keyboard, ShiftEscapeAlsoReachesTheMainMenu) {

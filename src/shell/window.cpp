@@ -21,11 +21,14 @@ namespace duskmarch {
 
 namespace {
 
-// The trace itself stays for the player to send.
+// The trace itself stays for the player to send. A log written to since then has told of it.
 void reportearliercrash(const Game& game) {
   const std::filesystem::path trace = game.programfolder / crashfile;
-  std::error_code ignored;
-  if (!std::filesystem::exists(trace, ignored)) return;
+  std::error_code missing;
+  const auto crashed = std::filesystem::last_write_time(trace, missing);
+  if (missing) return;
+  const auto told = std::filesystem::last_write_time(game.programfolder / logfile, missing);
+  if (!missing && told > crashed) return;
   logline(game.programfolder, "An earlier run crashed.  Its last keys are in " + trace.string());
 }
 
