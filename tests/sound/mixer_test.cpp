@@ -112,7 +112,7 @@ TEST(Mixing, ChangesArriveWhileAnotherThreadRenders) {
   });
   const auto source = std::make_shared<Constant>(0.0F);
   for (int n = 0; n < 2000; ++n) {
-    mixer.load(n % 50, mono(Samples(8, 0.25F)));  // a loop goes round within a block
+    mixer.load(n % 50, mono(Samples(100, 0.25F)));
     mixer.setvolume(n % 50, -n % 5000);
     mixer.play(n % 50, n % 2 == 0);
     n % 2 == 0 ? mixer.addsource(source) : mixer.removesource(*source);
@@ -122,6 +122,22 @@ TEST(Mixing, ChangesArriveWhileAnotherThreadRenders) {
   done = true;
   audio.join();
   EXPECT_EQ(render(mixer, 1), (Samples{0, 0}));
+}
+
+// While one goes round within a block, the order that it is played by may be replaced and freed.
+TEST(Mixing, ALoopShorterThanABlockIsChangedWhileItIsMixed) {
+  Mixer mixer;
+  mixer.load(0, mono(Samples(8, 0.25F)));
+  mixer.play(0, true);
+  std::atomic<bool> done = false;
+  std::thread audio([&] {
+    while (!done) render(mixer, 512);
+  });
+  for (int n = 0; n < 200'000; ++n) mixer.setvolume(0, -n % 5000);
+  mixer.setvolume(0, 0);
+  done = true;
+  audio.join();
+  EXPECT_EQ(render(mixer, 1), (Samples{0.25F, 0.25F}));
 }
 
 }  // namespace
