@@ -107,7 +107,9 @@ class Reader:
     def hear(self, event):
         if event.type.startswith("object:property-change"):
             self.heard.append(str(event.any_data).strip())
-        elif event.type.startswith("window:activate"):  # a reader says where the player is now
+        elif event.type.startswith("window:activate"):
+            # A title set before the window is active again, as behind a box that closes, is not
+            # announced: a reader says the one it finds now.
             self.heard.append(event.source.get_name().strip())
         elif event.detail1:
             self.focus = event.source
