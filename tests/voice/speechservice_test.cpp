@@ -1,6 +1,4 @@
 // Mode 3's speech service: what it is told, and how it is survived.
-#include <algorithm>
-
 #include <gtest/gtest.h>
 
 #include "fakeservice.h"
@@ -25,10 +23,14 @@ class SpeechServiceTest : public testing::Test {
     const std::lock_guard guard(mutex_);
     return logged_;
   }
-  // How often the service was told to be lost. A machine that stands still for a second may make it
-  // look hung as well; that is no fault.
-  auto losses() {
-    return std::ranges::count(logged(), "the connection to the speech service was lost");
+  // Without the two lines that a machine which stands still for a second adds: that is no fault.
+  Texts loggedbutdelays() {
+    Texts lines = logged();
+    std::erase_if(lines, [](const std::string& line) {
+      return line == "the speech service does not answer" ||
+             line == "the speech service did not answer";
+    });
+    return lines;
   }
   bool asked(const Texts& texts) {
     return eventually([&] { return service_.asked() == texts; });
@@ -50,7 +52,7 @@ class SpeechServiceTest : public testing::Test {
 TEST_F(SpeechServiceTest, SaysOneTextAfterTheOther) {
   for (const char* text : {"One.", "", "two\x01three", "."}) jaws_->saystring(text);
   EXPECT_TRUE(asked({"One.", "two three", ".."}));  // a line's first dot is doubled on the way
-  EXPECT_EQ(losses(), 0);
+  EXPECT_EQ(loggedbutdelays(), Texts());
 }
 
 TEST_F(SpeechServiceTest, AKeyCutsOffOnlyWhatIsBeingSaid) {
@@ -73,7 +75,7 @@ TEST_F(SpeechServiceTest, SaysTheLatestTextWhenTheServiceIsBack) {
   EXPECT_TRUE(eventually([&] { return !logged().empty(); }));
   service_.start();
   EXPECT_TRUE(asked({"One.", "Three."}));
-  EXPECT_EQ(losses(), 1);
+  EXPECT_EQ(loggedbutdelays(), Texts({"the connection to the speech service was lost"}));
 }
 
 TEST_F(SpeechServiceTest, AFrozenServiceIsReportedAndSpeaksAgain) {
