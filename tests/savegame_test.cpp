@@ -1,8 +1,5 @@
 #include "campaign/savegame.h"
 
-#include <csignal>
-
-#include <sys/resource.h>
 #include <sys/stat.h>
 
 #include "campaignkeys.h"
@@ -111,14 +108,10 @@ TEST_F(SavedGame, WhatIsNoFileIsAnError) {
 
 TEST_F(SavedGame, AFullDiskIsNoticed) {
   load(filed(campaign));
-  signal(SIGXFSZ, SIG_IGN);
-  rlimit before{};
-  getrlimit(RLIMIT_FSIZE, &before);
-  const rlimit full = {20, before.rlim_max};
-  setrlimit(RLIMIT_FSIZE, &full);
-  const std::string event = save();
-  setrlimit(RLIMIT_FSIZE, &before);
-  EXPECT_EQ(event, saveerror);
+  {
+    const FullDisk full(20);
+    EXPECT_EQ(save(), saveerror);
+  }
   EXPECT_EQ(content(), filed(campaign).substr(0, 20));
   EXPECT_EQ(content("game.sav.bak"), filed(campaign));
 }

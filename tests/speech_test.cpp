@@ -142,6 +142,18 @@ TEST(Speech, AFolderThatCannotBeWrittenIsToldOnce) {
             Lines{"Sapi rate changed to 3.  Your speech settings cannot be saved.  "
                   "The game goes on without saving."});
   EXPECT_EQ(player.spokenby(key::pageup), Lines{"Sapi rate changed to 4."});
+  EXPECT_FALSE(std::filesystem::exists(player.folder().path / "progress.ini.new"));
+}
+
+TEST(Speech, AFullDiskLeavesTheSettingsAsTheyWere) {
+  Player player;
+  player.press(key::pageup);
+  const std::string kept = player.folder().read("progress.ini");
+  EXPECT_FALSE(kept.empty());
+  const FullDisk full(4);
+  player.press(key::pageup);
+  EXPECT_EQ(player.folder().read("progress.ini"), kept);
+  EXPECT_FALSE(std::filesystem::exists(player.folder().path / "progress.ini.new"));
 }
 
 // A canvas of 280 pixels holds exactly 16 characters a line: (280 / 28) x 1.6.
