@@ -1,6 +1,6 @@
 // What an end of turn costs as the number of mobs grows, and how much is told of it: missions of
-// ten ends, begun anew. Run it with a program folder that holds
-// the sounds as the working directory.
+// ten ends, begun anew. Run it with a program folder that holds the sounds as the working
+// directory.
 #include <array>
 
 #include <benchmark/benchmark.h>

@@ -166,7 +166,7 @@ TEST(Keyboard, AKeyInsideAnotherKeysHandlerWaitsItsTurn) {
             "voice\tHold Shift and press E to confirm ending your current turn.\n");
 }
 
-TEST(Keyboard, AHeldEnterLeavesOnce) {
+TEST(Keyboard, EnterAgainDuringTheFarewellDoesNothing) {
   BusyPlayer player;
   startup(player.game);
   keypress(player.game, {.keycode = key::up});

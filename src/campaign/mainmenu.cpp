@@ -31,7 +31,7 @@ void about(Game& game) {
 }
 
 void exitgame(Game& game) {
-  if (std::exchange(game.leaving, true)) return;  // a held key comes again and again
+  if (std::exchange(game.leaving, true)) return;  // Enter came again during the wait
   sayit(game, "Good bye.");
   hold(game, 1);
   if (game.ended) return;  // the window was closed during the wait
