@@ -7,7 +7,7 @@
 
 #include "platform/replay/replaysession.h"
 #include "resolution/endturn.h"
-#include "shell/keycodes.h"
+#include "shell/speech/keycodes.h"
 #include "world/tables.h"
 
 namespace duskmarch {

@@ -11,7 +11,7 @@
 #include "game.h"
 #include "platform/qt/frontend.h"
 #include "platform/qt/screenreader.h"
-#include "shell/window.h"
+#include "shell/startup.h"
 
 namespace {
 

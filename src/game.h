@@ -108,7 +108,7 @@ struct SummaryText {
 enum class Focus { window, summarylabel, storylabel };
 
 struct KeyPress {
-  int keycode = 0;  // a virtual key code, see shell/keycodes.h
+  int keycode = 0;  // a virtual key code, see shell/speech/keycodes.h
   int shift = 0;    // 1 Shift, 2 Ctrl, 4 Alt, summed
 };
 

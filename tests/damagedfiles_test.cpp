@@ -4,7 +4,7 @@
 #include "campaign/savegame.h"
 #include "campaignkeys.h"
 #include "invariants.h"
-#include "shell/progress.h"
+#include "shell/speech/progress.h"
 
 namespace duskmarch {
 namespace {

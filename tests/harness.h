@@ -16,7 +16,7 @@
 #include <unistd.h>
 
 #include "platform/replay/replaysession.h"
-#include "shell/keycodes.h"
+#include "shell/speech/keycodes.h"
 #include "world/tables.h"
 
 namespace duskmarch {

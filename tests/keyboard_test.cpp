@@ -4,9 +4,9 @@
 
 #include "harness.h"
 #include "heroturn/optionlist.h"
-#include "shell/hold.h"
-#include "shell/speech.h"
-#include "shell/window.h"
+#include "shell/speech/hold.h"
+#include "shell/speech/speech.h"
+#include "shell/startup.h"
 
 namespace duskmarch {
 namespace {

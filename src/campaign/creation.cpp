@@ -6,8 +6,8 @@
 #include "campaign/abilitytable.h"
 #include "campaign/bonustable.h"
 #include "campaign/screens.h"
-#include "shell/pages.h"
-#include "shell/speech.h"
+#include "shell/speech/pages.h"
+#include "shell/speech/speech.h"
 #include "values/utf8.h"
 
 namespace duskmarch {

@@ -6,7 +6,7 @@
 
 #include "campaign/screens.h"
 #include "missions/missions.h"
-#include "shell/speech.h"
+#include "shell/speech/speech.h"
 
 namespace duskmarch {
 namespace {

@@ -5,8 +5,8 @@
 
 #include "campaign/screens.h"
 #include "missions/missions.h"
-#include "shell/hold.h"
-#include "shell/speech.h"
+#include "shell/speech/hold.h"
+#include "shell/speech/speech.h"
 
 namespace duskmarch {
 namespace {

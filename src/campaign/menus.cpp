@@ -4,7 +4,7 @@
 
 #include "audio/sounds.h"
 #include "campaign/screens.h"
-#include "shell/keycodes.h"
+#include "shell/speech/keycodes.h"
 
 namespace duskmarch {
 namespace {

@@ -6,7 +6,7 @@
 #include "campaign/abilitytable.h"
 #include "campaign/screens.h"
 #include "heroturn/options.h"
-#include "shell/speech.h"
+#include "shell/speech/speech.h"
 
 namespace duskmarch {
 namespace {

@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "audio/sounds.h"
-#include "shell/speech.h"
+#include "shell/speech/speech.h"
 #include "values/filelookup.h"
 #include "values/textfile.h"
 

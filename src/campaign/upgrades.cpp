@@ -4,7 +4,7 @@
 
 #include "campaign/abilitytable.h"
 #include "campaign/screens.h"
-#include "shell/speech.h"
+#include "shell/speech/speech.h"
 #include "world/narration.h"
 
 namespace duskmarch {

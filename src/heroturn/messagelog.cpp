@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "shell/speech.h"
+#include "shell/speech/speech.h"
 #include "values/textfile.h"
 #include "world/narration.h"
 

@@ -8,9 +8,9 @@
 #include "campaign/savegame.h"
 #include "heroturn/optionlist.h"
 #include "missions/missionlist.h"
-#include "shell/keycodes.h"
-#include "shell/pages.h"
-#include "shell/speech.h"
+#include "shell/speech/keycodes.h"
+#include "shell/speech/pages.h"
+#include "shell/speech/speech.h"
 #include "world/narration.h"
 #include "world/tables.h"
 

@@ -68,7 +68,8 @@ class Window {
 
 // A read-only text view that covers the window while it is shown, readable line by line by a
 // screen reader. Key presses in it reach the game through keypress() too; it keeps the ordinary
-// caret keys for itself, and tells the game by caretmoved() (shell/selfreading.h) where they led.
+// caret keys for itself, and tells the game by caretmoved() (shell/speech/selfreading.h) where they
+// led.
 class Page {
  public:
   virtual ~Page() = default;
@@ -83,7 +84,7 @@ class Dialogs {
  public:
   virtual ~Dialogs() = default;
   // What the player typed, or nothing when the box was cancelled. While no screen reader is
-  // attached every typed text is handed to echotyped() (shell/selfreading.h).
+  // attached every typed text is handed to echotyped() (shell/speech/selfreading.h).
   virtual std::string input(std::string_view title, std::string_view prompt) = 0;
   // An empty title means the program's own.
   virtual void message(std::string_view title, std::string_view text) = 0;

@@ -5,7 +5,7 @@
 
 #include "resolution/gunfire.h"
 #include "resolution/tags.h"
-#include "shell/speech.h"
+#include "shell/speech/speech.h"
 #include "values/namelist.h"
 #include "world/mapspeech.h"
 #include "world/narration.h"

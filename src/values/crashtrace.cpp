@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <string>
 
-#include "values/escape.h"
+#include "values/scriptlines.h"
 
 namespace duskmarch {
 

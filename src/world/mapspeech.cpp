@@ -3,7 +3,7 @@
 #include <vector>
 
 #include "resolution/tags.h"
-#include "shell/speech.h"
+#include "shell/speech/speech.h"
 #include "values/namelist.h"
 #include "world/narration.h"
 #include "world/tables.h"

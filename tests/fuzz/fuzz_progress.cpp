@@ -2,7 +2,7 @@
 #include "fuzzfolder.h"
 #include "invariants.h"
 #include "platform/replay/replaysession.h"
-#include "shell/progress.h"
+#include "shell/speech/progress.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace duskmarch;

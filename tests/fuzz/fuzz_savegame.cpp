@@ -2,7 +2,7 @@
 #include "fuzzfolder.h"
 #include "invariants.h"
 #include "platform/replay/replaysession.h"
-#include "shell/keycodes.h"
+#include "shell/speech/keycodes.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace duskmarch;

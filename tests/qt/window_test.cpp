@@ -13,7 +13,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/qt/frontend.h"
-#include "shell/speechsettings.h"
+#include "shell/speech/speechsettings.h"
 
 namespace duskmarch {
 

@@ -14,7 +14,7 @@
 
 #include "platform/qt/keymap.h"
 #include "platform/qt/text.h"
-#include "shell/selfreading.h"
+#include "shell/speech/selfreading.h"
 
 namespace duskmarch {
 

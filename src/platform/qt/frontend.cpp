@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "platform/qt/terminationsignals.h"
-#include "shell/window.h"
+#include "shell/startup.h"
 
 namespace duskmarch {
 

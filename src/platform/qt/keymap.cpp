@@ -6,7 +6,7 @@
 #include <span>
 #include <string_view>
 
-#include "shell/keycodes.h"
+#include "shell/speech/keycodes.h"
 
 namespace duskmarch {
 

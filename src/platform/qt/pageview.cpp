@@ -8,7 +8,7 @@
 
 #include "platform/qt/fonts.h"
 #include "platform/qt/text.h"
-#include "shell/selfreading.h"
+#include "shell/speech/selfreading.h"
 
 namespace duskmarch {
 

@@ -10,7 +10,7 @@
 #include "platform/qt/keymap.h"
 #include "platform/qt/text.h"
 #include "shell/keyboard.h"
-#include "shell/window.h"
+#include "shell/startup.h"
 
 namespace duskmarch {
 

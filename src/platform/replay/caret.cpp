@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "shell/keycodes.h"
+#include "shell/speech/keycodes.h"
 #include "values/utf8.h"
 
 namespace duskmarch {

@@ -4,7 +4,7 @@
 #include <cstdio>
 
 #include "platform/replay/replayengines.h"
-#include "shell/selfreading.h"
+#include "shell/speech/selfreading.h"
 #include "values/hundredths.h"
 #include "values/utf8.h"
 

@@ -3,7 +3,7 @@
 #include <array>
 #include <charconv>
 
-#include "values/escape.h"
+#include "values/scriptlines.h"
 
 namespace duskmarch {
 

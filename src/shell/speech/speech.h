@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "game.h"
-#include "shell/keycodes.h"
+#include "shell/speech/keycodes.h"
 
 namespace duskmarch {
 

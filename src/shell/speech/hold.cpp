@@ -1,9 +1,9 @@
-#include "shell/hold.h"
+#include "shell/speech/hold.h"
 
 #include <chrono>
 #include <cmath>
 
-#include "shell/keyqueue.h"
+#include "shell/speech/keyqueue.h"
 
 namespace duskmarch {
 

@@ -1,4 +1,4 @@
-#include "shell/keyqueue.h"
+#include "shell/speech/keyqueue.h"
 
 #include <exception>
 

@@ -1,4 +1,4 @@
-#include "shell/selfreading.h"
+#include "shell/speech/selfreading.h"
 
 namespace duskmarch {
 

@@ -1,6 +1,6 @@
-#include "shell/pages.h"
+#include "shell/speech/pages.h"
 
-#include "shell/selfreading.h"
+#include "shell/speech/selfreading.h"
 
 namespace duskmarch {
 

@@ -1,4 +1,4 @@
-#include "shell/speech.h"
+#include "shell/speech/speech.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,11 +1,11 @@
-#include "shell/speechsettings.h"
+#include "shell/speech/speechsettings.h"
 
 #include <algorithm>
 #include <string>
 
 #include "audio/sounds.h"
-#include "shell/progress.h"
-#include "shell/speech.h"
+#include "shell/speech/progress.h"
+#include "shell/speech/speech.h"
 
 namespace duskmarch {
 

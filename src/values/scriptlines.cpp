@@ -1,4 +1,4 @@
-#include "values/escape.h"
+#include "values/scriptlines.h"
 
 #include <array>
 #include <bit>

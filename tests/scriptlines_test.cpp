@@ -1,5 +1,5 @@
 // Texts on one line: whatever they hold, and wherever in them.
-#include "values/escape.h"
+#include "values/scriptlines.h"
 
 #include <random>
 

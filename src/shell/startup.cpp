@@ -1,4 +1,4 @@
-#include "shell/window.h"
+#include "shell/startup.h"
 
 #include <string>
 #include <system_error>
@@ -10,9 +10,9 @@
 #include "resolution/endturn.h"
 #include "shell/keyboard.h"
 #include "shell/nexthero.h"
-#include "shell/pages.h"
-#include "shell/progress.h"
-#include "shell/speech.h"
+#include "shell/speech/pages.h"
+#include "shell/speech/progress.h"
+#include "shell/speech/speech.h"
 #include "world/chance.h"
 #include "world/drawnmap.h"
 #include "world/tables.h"

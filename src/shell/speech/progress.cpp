@@ -1,4 +1,4 @@
-#include "shell/progress.h"
+#include "shell/speech/progress.h"
 
 #include <charconv>
 #include <cmath>
@@ -7,7 +7,7 @@
 #include <stdexcept>
 
 #include "debuglog.h"
-#include "shell/speech.h"
+#include "shell/speech/speech.h"
 #include "values/filelookup.h"
 #include "values/textfile.h"
 
