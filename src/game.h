@@ -181,7 +181,6 @@ struct Game {  // NOLINT(clang-analyzer-optin.performance.Padding)
   std::deque<std::string> list1;     // message log, newest line first
   std::vector<std::string> list2;    // the option list
   std::vector<std::string> list3;    // what the enemy being planned may do
-  int listingfor = 0;                // the enemy whose options are being listed; else 0
   std::string command3;              // caption of the button that selects the next hero
 
   // The world.

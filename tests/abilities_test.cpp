@@ -7,7 +7,7 @@
 #include "cases.h"
 #include "ground.h"
 #include "harness.h"
-#include "heroturn/options.h"
+#include "heroturn/dooption.h"
 
 namespace duskmarch {
 namespace {

@@ -55,7 +55,6 @@ TEST(Enemies, AnEntryIsChosenAndPerformedAtTheNextEndOfTurn) {
   EXPECT_EQ(game.list3, (std::vector<std::string>{"[Throw Vesper East]", "[Throw Vesper South]",
                                                   "[Throw Vesper East]", "[Throw chair East]",
                                                   "[Kick East]", "", "", "[Fight]"}));
-  EXPECT_EQ(game.listingfor, 0);
   willdraw(game, {{8, 4}});
   endturn(game);
   EXPECT_EQ(game.list1.front(), "Jessie is planning to [Kick East] next turn.");

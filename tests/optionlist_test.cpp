@@ -9,6 +9,7 @@
 
 #include "ground.h"
 #include "harness.h"
+#include "resolution/enemies.h"
 
 namespace duskmarch {
 namespace {
@@ -64,6 +65,15 @@ INSTANTIATE_TEST_SUITE_P(
         // Whom she fights already is offered again only while he has no plans.
         Case{"Vesper 2,2 20 4 t2 | Al 2,2 9 3 plans[Fight] | Bo 2,2 9 3 plans[Fight] | Cy 1,2 9 3",
              "", "Move|Target Bo"},
+        // Held, and without a way out of her own: the foe on her tile is offered whatever he plans.
+        Case{"Vesper 2,2 20 4 engaged t2 | Al 2,2 9 3 plans[Fight]", "Kick,Pin,Shield",
+             "Target Al|Shield"},
+        Case{"Vesper 2,2 2 4 engaged t2 | Al 2,2 9 3 plans[Fight]", "Headbutt", "Target Al"},
+        Case{"Vesper 2,2 20 4 engaged t2 | Al 2,2 9 3 plans[Fight]", "Dive", "Dive"},
+        Case{"Vesper 2,2 20 4 engaged acted t2 | Al 2,2 9 3 plans[Fight]", "Combo", ""},
+        Case{"Vesper 2,1 20 4 engaged t2 | Al 2,1 9 3 plans[Fight]", "Pin", "Pin Al"},
+        Case{"Vesper 2,2 20 4 engaged t2 plans[Fight] | Al 2,2 9 3 plans[Fight]", "",
+             "Don't target anyone"},
         // In the order of her abilities; names count to the letter.
         Case{"Vesper 2,2 20 4", "Second wind,Hook,Smoke bombs,dive,Flight,Dive,Shield",
              "Move|Second wind|Hook|Smoke bombs|Dive|Shield"},
@@ -96,10 +106,8 @@ TEST_P(EnemyEntries, AreTheOptionsByDirection) {
   Player player;
   Game& game = player.game();
   arrangefor(game, GetParam().ground, 1, GetParam().abilities);
-  game.listingfor = 1;
-  listoptions(game, 1);
+  listentries(game, 1);
   EXPECT_EQ(joined(game.list3), GetParam().options);
-  EXPECT_EQ(joined(game.list2), "");
 }
 
 INSTANTIATE_TEST_SUITE_P(

@@ -3,8 +3,8 @@
 #include <string>
 #include <string_view>
 
-#include "campaign/abilitytable.h"
 #include "campaign/bonustable.h"
+#include "campaign/learning.h"
 #include "campaign/screens.h"
 #include "shell/speech/pages.h"
 #include "shell/speech/speech.h"

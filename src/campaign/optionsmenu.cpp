@@ -1,32 +1,22 @@
-#include <algorithm>
 #include <cstddef>
 #include <string>
 #include <string_view>
 
-#include "campaign/abilitytable.h"
 #include "campaign/screens.h"
-#include "heroturn/options.h"
+#include "heroturn/dooption.h"
+#include "heroturn/offers.h"
 #include "shell/speech/speech.h"
 
 namespace duskmarch {
 namespace {
 
-// An option is its ability's name alone, or followed by what it is aimed at.
-bool isoptionof(std::string_view option, std::string_view ability) {
-  return option.starts_with(ability) &&
-         (option.size() == ability.size() || option[ability.size()] == ' ');
-}
-
 // Empty for an option that explains itself.
 std::string_view description(std::string_view option) {
-  if (option == "Move") {
-    return "Moving is only allowed if you are not currently engaged in a fight, or in some way "
-           "held in place.  You can move only 1 tile per turn.";
-  }
-  const auto rows = abilitytable();
-  const auto row = std::ranges::find_if(
-      rows, [&](const AbilityRow& ability) { return isoptionof(option, ability.name); });
-  return row == rows.end() ? "" : row->description;
+  const Order* const order = readoption(option).order;
+  if (order == nullptr) return "";
+  if (!order->description.empty()) return order->description;
+  const Order* const ability = findorder(order->ability);
+  return ability == nullptr ? "" : ability->description;
 }
 
 // False, and spoken of, when the hero has nothing left to do.

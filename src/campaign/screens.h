@@ -2,15 +2,16 @@
 // holds the modifiers).
 #pragma once
 
-#include "campaign/abilitytable.h"
 #include "game.h"
+#include "heroturn/ordertable.h"
 
 namespace duskmarch {
 
 inline constexpr int mainmenuentries = 4;
 inline constexpr int creationentries = 6;
-inline constexpr int upgradeentries = 2 + abilityrows + 1;  // health, fighting skill; the way out
-inline constexpr int hideoutentries = heroslots + 1;        // the next mission
+inline constexpr int upgradeentries =
+    2 + learnableabilities + 1;                       // health, fighting skill; the way out
+inline constexpr int hideoutentries = heroslots + 1;  // the next mission
 
 void speakmainmenu(Game& game);
 void performmainmenu(Game& game, int shift);

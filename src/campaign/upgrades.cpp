@@ -2,8 +2,9 @@
 #include <string>
 #include <string_view>
 
-#include "campaign/abilitytable.h"
+#include "campaign/learning.h"
 #include "campaign/screens.h"
+#include "heroturn/ordertable.h"
 #include "shell/speech/speech.h"
 #include "world/narration.h"
 
@@ -14,8 +15,8 @@ enum Entry { healthentry = 1, fightentry, firstability, closeentry = upgradeentr
 
 constexpr int bodyprice = 5;  // of more health, and of more fighting skill
 
-const AbilityRow& abilityat(int entry) {
-  return abilitytable()[static_cast<std::size_t>(entry - firstability)];
+const Order& abilityat(int entry) {
+  return *learnableorders[static_cast<std::size_t>(entry - firstability)];
 }
 
 // The ability as the hero has it, or null. Should it be listed twice, the last one counts.
@@ -47,15 +48,15 @@ std::string fighttext(const Mob& hero) {
                   "the enemy.");
 }
 
-std::string abilitytext(const Mob& hero, const AbilityRow& row) {
+std::string abilitytext(const Mob& hero, const Order& row) {
   std::string text = "Ability " + std::string(row.name) + ".  ";
   if (const Ability* ability = owned(hero, row.name)) {
     const int uses = ability->abilityuses;
     text += hero.mobname + " can use this " + std::to_string(uses);
     text += uses == 1 ? " time" : " times";
-    text += " per mission.  Increase this by 1 for a cost of " + std::to_string(row.secondprice);
+    text += " per mission.  Increase this by 1 for a cost of " + std::to_string(row.price.second);
   } else {
-    text += "Gain this ability for a cost of " + std::to_string(row.firstprice);
+    text += "Gain this ability for a cost of " + std::to_string(row.price.first);
   }
   return text.append(" upgrade points.  ").append(row.description);
 }
@@ -75,8 +76,8 @@ std::string pointstext(int points) {
 
 int price(const Mob& hero, int entry) {
   if (entry < firstability) return bodyprice;
-  const AbilityRow& row = abilityat(entry);
-  return owned(hero, row.name) ? row.secondprice : row.firstprice;
+  const Order& row = abilityat(entry);
+  return owned(hero, row.name) ? row.price.second : row.price.first;
 }
 
 void raisehealth(Game& game, Mob& hero) {

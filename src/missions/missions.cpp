@@ -1,5 +1,6 @@
 #include "missions/missions.h"
 
+#include <algorithm>
 #include <span>
 #include <string>
 #include <string_view>
@@ -12,7 +13,7 @@
 #include "shell/speech/pages.h"
 #include "shell/speech/speech.h"
 #include "world/narration.h"
-#include "world/tables.h"
+#include "world/whostands.h"
 
 namespace duskmarch {
 
@@ -118,11 +119,9 @@ void setup(Game& game, const Mission& mission) {
 
 // Whether somebody of a side still stands, or is yet to arrive.
 bool remains(const Game& game, int side) {
-  for (int slot = 1; slot <= game.mobcount; ++slot) {
-    const Mob& mob = game.mob(slot);
-    if (mob.aliance == side && (conscious(mob) || mob.spawntime > game.turnnumber)) return true;
-  }
-  return false;
+  return std::ranges::any_of(everyone(game), [&](const Mob& mob) {
+    return mob.aliance == side && (conscious(mob) || mob.spawntime > game.turnnumber);
+  });
 }
 
 // From here on closing the summary once more decides nothing.
@@ -140,8 +139,7 @@ void finish(Game& game, const Ending& ending) {
 
 void win(Game& game) {
   announce(game, "Victory", "Mission complete!");
-  for (int slot = 1; slot <= game.mobcount; ++slot) {
-    Mob& mob = game.mob(slot);
+  for (Mob& mob : everyone(game)) {
     // Earned points are paid out again at every victory.
     if (mob.aliance == aliance::heroes) mob.upgradepoints += mob.earnedpoints;
     giveusesback(mob);

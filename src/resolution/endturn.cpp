@@ -15,7 +15,8 @@
 #include "world/drawnmap.h"
 #include "world/mapspeech.h"
 #include "world/narration.h"
-#include "world/tables.h"
+#include "world/nexthero.h"
+#include "world/whostands.h"
 
 namespace duskmarch {
 
@@ -29,27 +30,22 @@ void opening(Game& game) {
   game.turnsummary.clear();
   game.list1.clear();
   game.turnnumber += 1;
-  for (int x = game.mobcount; x >= 1; --x) {
-    if (conscious(game.mob(x)) && game.mob(x).aliance == aliance::heroes) game.selected = x;
-  }
+  if (const int first = firsthero(game, 1, game.mobcount); first != 0) game.selected = first;
   list1additem(game, "-End of turn number " + std::to_string(game.turnnumber) + ".");
 }
 
 void keeptargets(Game& game) {
-  for (int x = 1; x <= game.mobcount; ++x) {
-    Mob& mob = game.mob(x);
-    mob.rested = 1;
-    if (!conscious(mob) || mob.aliance != aliance::enemies) continue;
-    if (!conscious(game.mob(mob.target))) mob.target = 0;
-    if (mob.target == 0) pickatarget(game, x);
+  for (Mob& mob : everyone(game)) mob.rested = 1;
+  for (Mob& enemy : standing(game, aliance::enemies)) {
+    if (!conscious(game.mob(enemy.target))) enemy.target = 0;
+    if (enemy.target == 0) pickatarget(game, slotof(game, enemy));
   }
 }
 
 void performchosenoptions(Game& game) {
-  for (int x = 1; x <= game.mobcount; ++x) {
-    const Mob& mob = game.mob(x);
-    if (!conscious(mob) || mob.mobtype != mobtype::gifted || !mob.status.empty()) continue;
-    doenemyoption(game, x, mob.action);
+  for (const Mob& mob : standing(game)) {
+    if (mob.mobtype != mobtype::gifted || !mob.status.empty()) continue;
+    doenemyoption(game, slotof(game, mob), mob.action);
   }
 }
 
@@ -62,11 +58,10 @@ bool canfight(const Game& game, const Mob& mob) {
   return conscious(foe) && sametile(foe, mob) && foe.aliance != mob.aliance;
 }
 
-// Carries out what mob `x` planned; returns its report.
-std::string resolve(Game& game, int x) {
-  Mob& mob = game.mob(x);
+// Carries out what a mob planned; returns its report.
+std::string resolve(Game& game, Mob& mob) {
   std::string report;
-  if (!conscious(mob) || !mob.status.empty()) return report;
+  if (!mob.status.empty()) return report;
   while (true) {
     if (hastag(mob.action, tag::shootopening)) return volley(game, mob);
     if (hastag(mob.action, tag::loaded)) {
@@ -75,7 +70,7 @@ std::string resolve(Game& game, int x) {
     }
     if (hastag(mob.action, tag::reload)) report = load(game, mob);
     if (!hastag(mob.action, tag::fight)) return report;
-    if (canfight(game, mob)) return meleeexchange(game, x);
+    if (canfight(game, mob)) return meleeexchange(game, slotof(game, mob));
     // The fight is off. What else is planned gets its turn now, even the gun aimed just above.
     removeeverytag(mob.action, tag::fight);
     mob.target = 0;
@@ -83,7 +78,7 @@ std::string resolve(Game& game, int x) {
 }
 
 void resolveplans(Game& game) {
-  for (int x = 1; x <= game.mobcount; ++x) logreport(game, resolve(game, x));
+  for (Mob& mob : standing(game)) logreport(game, resolve(game, mob));
 }
 
 // Takes one turn off a mob's daze; returns what is told of it.
@@ -95,11 +90,9 @@ std::string shakeoffdaze(Mob& mob) {
 }
 
 void moveandplan(Game& game) {
-  for (int x = 1; x <= game.mobcount; ++x) {
-    Mob& mob = game.mob(x);
-    if (!conscious(mob)) continue;
+  for (Mob& mob : standing(game)) {
     std::string report;
-    if (mob.aliance == aliance::enemies) report = walkandplan(game, x);
+    if (mob.aliance == aliance::enemies) report = walkandplan(game, slotof(game, mob));
     if (hastag(mob.status, tag::dazed)) report = shakeoffdaze(mob);
     logreport(game, report);
   }
@@ -124,9 +117,8 @@ std::string strugglewithknife(Mob& mob) {
 }
 
 void struggle(Game& game) {
-  for (int x = 1; x <= game.mobcount; ++x) {
-    Mob& mob = game.mob(x);
-    if (!conscious(mob) || mob.rested != 1) continue;
+  for (Mob& mob : standing(game)) {
+    if (mob.rested != 1) continue;
     if (hastag(mob.status, tag::netted)) {
       list1additem(game, strugglewithnet(mob));
     } else if (hastag(mob.status, tag::pinned)) {
@@ -137,17 +129,14 @@ void struggle(Game& game) {
 
 // The last free hero on the tile where `mob` arrives; null when there is none.
 const Mob* heroatarrival(const Game& game, const Mob& mob) {
-  for (int y = game.mobcount; y >= 1; --y) {
-    const Mob& hero = game.mob(y);
-    if (hero.mobtype == mobtype::hero && conscious(hero) && sametile(hero, mob) &&
-        hero.engaged == 0) {
-      return &hero;
-    }
+  const Mob* last = nullptr;
+  for (const Mob& hero : standingon(game, tileof(mob))) {
+    if (hero.mobtype == mobtype::hero && hero.engaged == 0) last = &hero;
   }
-  return nullptr;
+  return last;
 }
 
-void arrive(Game& game, Mob& mob) {
+void bringin(Game& game, Mob& mob) {
   mob.health = mob.maxhealth;
   std::string line = mob.spawntext;
   replaceeverytag(line, "$N", mob.mobname);
@@ -160,16 +149,15 @@ void arrive(Game& game, Mob& mob) {
 
 void freshturn(Game& game) {
   const std::vector<int> againstenemies = slotsagainst(game, aliance::enemies);
-  for (int x = 1; x <= game.mobcount; ++x) {
-    Mob& mob = game.mob(x);
+  for (Mob& mob : everyone(game)) {
     mob.hasmoved = 0;
     mob.hasacted = 0;
-    if (mob.spawntime == game.turnnumber) arrive(game, mob);
+    if (mob.spawntime == game.turnnumber) bringin(game, mob);
     removetag(mob.action, tag::shield);
     if (mob.aliance == aliance::enemies) {
-      engagedcheck(game, x, againstenemies);  // many, who all ask about the same few
+      engagedcheck(game, slotof(game, mob), againstenemies);  // many, who ask about the same few
     } else {
-      engagedcheck(game, x);
+      engagedcheck(game, slotof(game, mob));
     }
     if (mob.mobtype == mobtype::gunman && mob.action.empty()) mob.action = tag::reload;
   }

@@ -2,20 +2,19 @@
 
 #include <algorithm>
 
-#include "heroturn/optionlist.h"
 #include "resolution/smoke.h"
 #include "resolution/tags.h"
 #include "world/chance.h"
 #include "world/mapspeech.h"
 #include "world/narration.h"
-#include "world/tables.h"
+#include "world/whostands.h"
 
 namespace duskmarch {
 
 namespace {
 
-// Of the straight line, squared: it orders places as the line itself does, without rounding.
-int distance(const Mob& one, const Mob& other) {
+// The straight line, squared: it orders places as the line itself does, without rounding.
+int squaredline(const Mob& one, const Mob& other) {
   const int columns = one.mobx - other.mobx;
   const int rows = one.moby - other.moby;
   return columns * columns + rows * rows;
@@ -69,13 +68,11 @@ void pickatarget(Game& game, int e) {
   Mob& enemy = game.mob(e);
   int best = 0;
   int bestdistance = 999 * 999;
-  for (int i = 1; i <= game.mobcount; ++i) {
-    const Mob& hero = game.mob(i);
-    if (!conscious(hero) || hero.aliance != aliance::heroes) continue;
-    const int away = distance(hero, enemy);
+  for (const Mob& hero : standing(game, aliance::heroes)) {
+    const int away = squaredline(hero, enemy);
     // Every hero costs a coin, also where it decides nothing.
     const bool takesover = draw(game, 2) == 1;
-    if (away < bestdistance || (away == bestdistance && takesover)) best = i;
+    if (away < bestdistance || (away == bestdistance && takesover)) best = slotof(game, hero);
     bestdistance = std::min(bestdistance, away);
   }
   enemy.target = best;
@@ -83,11 +80,10 @@ void pickatarget(Game& game, int e) {
 
 void listenemyoptions(Game& game, int t) {
   game.list3.clear();
-  game.listingfor = t;
-  listoptions(game, t);
+  listentries(game, t);
+  // Choosing nothing is as likely as any two entries.
   game.list3.resize(game.list3.size() + 2);
   if (hastargethere(game, game.mob(t))) game.list3.emplace_back(tag::fight);
-  game.listingfor = 0;
 }
 
 std::string walkandplan(Game& game, int x) {

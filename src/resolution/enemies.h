@@ -12,6 +12,8 @@ namespace duskmarch {
 void pickatarget(Game& game, int e);
 // Fills `list3` with what enemy `t` may choose to do.
 void listenemyoptions(Game& game, int t);
+// The part of that which its abilities allow: adds the entries to `list3`.
+void listentries(Game& game, int t);
 // Performs the entry that enemy `t` chose, and empties its action. The entry may be that action.
 void doenemyoption(Game& game, int t, const std::string& entry);
 

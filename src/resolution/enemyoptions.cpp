@@ -1,21 +1,24 @@
-// What a gifted enemy can do with the option that it chose.
+// What gifted enemies make of the orders that their abilities allow: the entries among which one
+// draws its plan, and what each entry does at the next end of turn.
+#include <algorithm>
+#include <array>
 #include <string>
 #include <vector>
 
 #include "heroturn/messagelog.h"
+#include "heroturn/offers.h"
 #include "resolution/enemies.h"
 #include "resolution/tags.h"
 #include "values/namelist.h"
-#include "world/directions.h"
 #include "world/furniture.h"
 #include "world/narration.h"
-#include "world/tables.h"
+#include "world/whostands.h"
 
 namespace duskmarch {
 
 namespace {
 
-constexpr std::string_view throwopening = "Throw ";
+constexpr int dazeturns = 2;  // of a hero who is kicked, thrown or hit
 
 // What an entry such as "[Throw chair North]" asks for; without a direction, nothing.
 struct Chosen {
@@ -32,41 +35,27 @@ Chosen readentry(std::string_view entry) {
           .direction = finddirection(entry.substr(space + 1, entry.size() - space - 2))};
 }
 
-// The conscious heroes on a tile, in slot order.
-std::vector<int> heroesat(const Game& game, Tile tile) {
-  std::vector<int> heroes;
-  for (int slot = 1; slot <= game.mobcount; ++slot) {
-    const Mob& mob = game.mob(slot);
-    if (conscious(mob) && mob.aliance == aliance::heroes && at(mob, tile.x, tile.y)) {
-      heroes.push_back(slot);
-    }
-  }
-  return heroes;
-}
-
 void daze(Mob& hero) {
-  addtag(hero.status, tag::dazed, 2);
+  addtag(hero.status, tag::dazed, dazeturns);
 }
 
-// The hero on the thrower's own tile that `option` names; 0 for none.
-int herotothrow(const Game& game, const Mob& thrower, std::string_view option) {
-  if (!option.starts_with(throwopening)) return 0;
-  int named = 0;
-  for (const int hero : heroesat(game, tileof(thrower))) {
-    if (game.mob(hero).mobname == option.substr(throwopening.size())) named = hero;
+// The hero of that name on the thrower's own tile, the last of several; null for none.
+Mob* herotothrow(Game& game, const Mob& thrower, std::string_view name) {
+  Mob* named = nullptr;
+  for (Mob& hero : standingon(game, tileof(thrower), aliance::heroes)) {
+    if (hero.mobname == name) named = &hero;
   }
   return named;
 }
 
-void throwhero(Game& game, int t, int hero, const Direction& direction) {
+void throwhero(Game& game, int t, Mob& thrown, const Direction& direction) {
   const Mob& thrower = game.mob(t);
-  Mob& thrown = game.mob(hero);
   const Tile landing = step(tileof(thrower), direction);
   useup(game, t, "Throw", 1);
   std::vector<std::string> knockedover;
-  for (const int slot : heroesat(game, landing)) {
-    daze(game.mob(slot));
-    knockedover.push_back(game.mob(slot).mobname);
+  for (Mob& hero : standingon(game, landing, aliance::heroes)) {
+    daze(hero);
+    knockedover.push_back(hero.mobname);
   }
   removeeverytag(thrown.status, tag::pinned);
   daze(thrown);
@@ -87,8 +76,7 @@ void throwtable(Game& game, int t, const Direction& direction) {
   useup(game, t, "Throw", 1);
   std::vector<std::string> knockedover;
   std::vector<std::string> knockedout;
-  for (const int victim : heroesat(game, landing)) {
-    Mob& hero = game.mob(victim);
+  for (Mob& hero : standingon(game, landing, aliance::heroes)) {
     daze(hero);
     hero.health -= tabledamage;
     knockedover.push_back(hero.mobname);
@@ -107,16 +95,17 @@ void throwtable(Game& game, int t, const Direction& direction) {
 void kick(Game& game, int t, const Direction& direction) {
   Mob& kicker = game.mob(t);
   const Tile attacked = step(tileof(kicker), direction);
-  const std::vector<int> heroes = heroesat(game, attacked);
+  Mob* kicked = nullptr;
+  for (Mob& hero : standingon(game, attacked, aliance::heroes)) kicked = &hero;
   useup(game, t, "Kick", 1);
   place(kicker, keptonthemap(game, attacked));
   const std::string kicks =
       sentence({kicker.mobname, " jump kicked to the ", direction.word, ", "});
-  if (heroes.empty()) {
+  if (kicked == nullptr) {
     return list1additem(game,
                         sentence({kicks, "but missed ", hisorher(kicker.gender), " target.  "}));
   }
-  Mob& hero = game.mob(heroes.back());
+  Mob& hero = *kicked;
   place(hero, keptonthemap(game, step(attacked, direction)));
   daze(hero);
   hero.health -= kicker.fight;
@@ -126,14 +115,14 @@ void kick(Game& game, int t, const Direction& direction) {
                       conscious(hero) ? " damage.  " : " damage and was knocked unconscious.  "}));
 }
 
-// The first hero in line from a mob to the edge of the map; 0 for none.
-int firstheroinline(const Game& game, const Mob& mob, const Direction& direction) {
+// The first hero in line from a mob to the edge of the map; null for none.
+Mob* firstheroinline(Game& game, const Mob& mob, const Direction& direction) {
   const int tiles = tilestotheedge(game, tileof(mob), direction);
   for (int away = 1; away <= tiles; ++away) {
-    const std::vector<int> heroes = heroesat(game, step(tileof(mob), direction, away));
-    if (!heroes.empty()) return heroes.front();
+    const auto heroes = standingon(game, step(tileof(mob), direction, away), aliance::heroes);
+    if (!heroes.empty()) return &*heroes.begin();
   }
-  return 0;
+  return nullptr;
 }
 
 void throwchair(Game& game, int t, const Direction& direction) {
@@ -143,8 +132,8 @@ void throwchair(Game& game, int t, const Direction& direction) {
   useup(game, t, "Throw", 1);
   std::string report =
       sentence({thrower.mobname, " grabs a chair and hurls it ", direction.word, ".  "});
-  if (const int victim = firstheroinline(game, thrower, direction); victim != 0) {
-    Mob& hero = game.mob(victim);
+  if (Mob* const victim = firstheroinline(game, thrower, direction)) {
+    Mob& hero = *victim;
     hero.health -= chairdamage;
     daze(hero);
     hero.action.clear();
@@ -156,18 +145,90 @@ void throwchair(Game& game, int t, const Direction& direction) {
   list1additem(game, report);
 }
 
+// The entries of an order, by the direction it would act in.
+
+void list3additem(Game& game, std::string_view option, const Direction& direction) {
+  game.list3.push_back(sentence({"[", option, " ", direction.word, "]"}));
+}
+
+// Each kick may go wherever heroes stand.
+void listkicks(Game& game, const Mob& enemy, const Offer& offer) {
+  for (const Direction& direction : directions) {
+    const Tile tile = step(tileof(enemy), direction);
+    if (standingon(game, tile, aliance::heroes).empty()) continue;
+    list3additem(game, offer.order->name, direction);
+  }
+}
+
+// The throws that hit a hero up to `reach` tiles away.
+void listthrows(Game& game, const Mob& enemy, std::string_view option, int reach) {
+  for (const Mob& hero : standing(game, aliance::heroes)) {
+    for (const Direction& direction : directions) {
+      const int tiles = tilesahead(tileof(enemy), tileof(hero), direction);
+      if (tiles >= 1 && tiles <= reach) list3additem(game, option, direction);
+    }
+  }
+}
+
+void listchairthrows(Game& game, const Mob& enemy, const Offer& offer) {
+  listthrows(game, enemy, offer.order->name, gridsize);
+}
+
+void listtablethrows(Game& game, const Mob& enemy, const Offer& offer) {
+  listthrows(game, enemy, offer.order->name, 1);
+}
+
+// A person may be thrown anywhere but against the edge of the map, and once more at whom it hits.
+void listpersonthrows(Game& game, const Mob& enemy, const Offer& offer) {
+  const std::string option = offertext(game, offer);
+  for (const Direction& direction : directions) {
+    if (tilestotheedge(game, tileof(enemy), direction) > 0) list3additem(game, option, direction);
+  }
+  listthrows(game, enemy, option, 1);
+}
+
+// The orders that enemies make something of.
+struct EnemyOrder {
+  std::string_view order;  // its name in the table of orders
+  void (*listentries)(Game& game, const Mob& enemy, const Offer& offer);
+  // For an order upon nobody; who is thrown is found by name.
+  void (*perform)(Game& game, int t, const Direction& direction) = nullptr;
+};
+constexpr std::string_view personthrow = "Throw";
+constexpr std::array enemyorders{
+    EnemyOrder{"Kick", listkicks, kick},
+    EnemyOrder{"Throw chair", listchairthrows, throwchair},
+    EnemyOrder{"Throw table", listtablethrows, throwtable},
+    EnemyOrder{personthrow, listpersonthrows},
+};
+static_assert(std::ranges::all_of(enemyorders, [](const EnemyOrder& row) {
+  return findorder(row.order) != nullptr;
+}));
+
+// Whom an entry such as "Throw Vesper" would throw; null for another entry or when he is gone.
+Mob* thrownby(Game& game, const Mob& thrower, std::string_view option) {
+  if (!option.starts_with(personthrow)) return nullptr;
+  option.remove_prefix(personthrow.size());
+  return option.starts_with(' ') ? herotothrow(game, thrower, option.substr(1)) : nullptr;
+}
+
 }  // namespace
+
+void listentries(Game& game, int t) {
+  const Mob& enemy = game.mob(t);
+  for (const Offer& offer : offers(game, t)) {
+    const auto* const row = std::ranges::find(enemyorders, offer.order->name, &EnemyOrder::order);
+    if (row != enemyorders.end()) row->listentries(game, enemy, offer);
+  }
+}
 
 void doenemyoption(Game& game, int t, const std::string& entry) {
   if (const auto [option, direction] = readentry(entry); direction != nullptr) {
-    if (const int hero = herotothrow(game, game.mob(t), option); hero != 0) {
-      throwhero(game, t, hero, *direction);
-    } else if (option == "Throw table") {
-      throwtable(game, t, *direction);
-    } else if (option == "Throw chair") {
-      throwchair(game, t, *direction);
-    } else if (option == "Kick") {
-      kick(game, t, *direction);
+    const auto* const row = std::ranges::find(enemyorders, option, &EnemyOrder::order);
+    if (Mob* const hero = thrownby(game, game.mob(t), option)) {
+      throwhero(game, t, *hero, *direction);
+    } else if (row != enemyorders.end() && row->perform != nullptr) {
+      row->perform(game, t, *direction);
     }
   }
   // Not before: the entry may be this very action.

@@ -11,7 +11,7 @@
 #include "world/directions.h"
 #include "world/mapspeech.h"
 #include "world/narration.h"
-#include "world/tables.h"
+#include "world/whostands.h"
 
 namespace duskmarch {
 
@@ -38,9 +38,7 @@ struct Shots {
 // Bullets know no sides, and a gunman who stands there is hit by its own.
 Shots shoot(Game& game, int damage, int x, int y) {
   Shots shots;
-  for (int slot = 1; slot <= game.mobcount; ++slot) {
-    Mob& mob = game.mob(slot);
-    if (!conscious(mob) || !at(mob, x, y)) continue;
+  for (Mob& mob : standingon(game, {x, y})) {
     if (hastag(mob.action, tag::shield)) {
       shots.safe.push_back(mob.mobname);
       continue;

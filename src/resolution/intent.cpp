@@ -19,7 +19,7 @@ constexpr std::string_view nobody = "No enemies here.";
 
 bool onthecursor(const Game& game, int slot) {
   const Mob& mob = game.mob(slot);
-  return conscious(mob) && mob.aliance == aliance::enemies && at(mob, game.cursorx, game.cursory);
+  return conscious(mob) && mob.aliance == aliance::enemies && at(mob, {game.cursorx, game.cursory});
 }
 
 // Moves `reportedmob` on to the next enemy on the cursor's tile, round to itself in the end.

@@ -4,8 +4,9 @@
 
 #include "heroturn/messagelog.h"
 #include "resolution/tags.h"
+#include "world/knockout.h"
 #include "world/narration.h"
-#include "world/tables.h"
+#include "world/whostands.h"
 
 namespace duskmarch {
 
@@ -77,7 +78,7 @@ std::string exchangeblows(Mob& attacker, Mob& defender, const FightValues& value
   std::string report;
   if (damage > 0) {
     report = blow(attacker, defender, damage);
-    if (!conscious(defender) && attacker.aliance == aliance::heroes) attacker.earnedpoints += 1;
+    if (!conscious(defender)) creditknockout(attacker);
   } else if (damage < 0) {
     report = blow(defender, attacker, -damage);
   } else if (values.defender != Hundredths{}) {
@@ -97,9 +98,8 @@ std::string meleeexchange(Game& game, int x) {
 }
 
 void regainfightingpoints(Game& game) {
-  for (int x = 1; x <= game.mobcount; ++x) {
-    Mob& mob = game.mob(x);
-    if (!conscious(mob) || !mob.status.empty()) continue;
+  for (Mob& mob : standing(game)) {
+    if (!mob.status.empty()) continue;
     if (mob.rested != 1 || mob.fight >= mob.maxfight) continue;
     mob.fight += 1;
     list1additem(game, mob.mobname + " regains 1 fighting point.");

@@ -13,7 +13,6 @@
 #include "missions/missions.h"
 #include "resolution/endturn.h"
 #include "resolution/intent.h"
-#include "shell/nexthero.h"
 #include "shell/speech/keycodes.h"
 #include "shell/speech/keyqueue.h"
 #include "shell/speech/pages.h"
@@ -22,6 +21,7 @@
 #include "world/drawnmap.h"
 #include "world/mapspeech.h"
 #include "world/narration.h"
+#include "world/nexthero.h"
 #include "world/tables.h"
 
 namespace duskmarch {
@@ -106,7 +106,7 @@ void selectnexthero(Game& game) {
   if (next == 0) return sayit(game, "You only have " + game.mob(game.selected).mobname + ".");
   if (next < game.selected) return selecthero(game, next, " selected.");
   const Mob& hero = game.mob(next);
-  if (at(hero, game.cursorx, game.cursory)) {
+  if (at(hero, {game.cursorx, game.cursory})) {
     return selecthero(game, next, " selected at this location.");
   }
   selecthero(game, next, selectedat(hero));

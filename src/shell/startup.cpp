@@ -5,16 +5,16 @@
 
 #include "audio/sounds.h"
 #include "debuglog.h"
+#include "heroturn/dooption.h"
 #include "heroturn/optionlist.h"
-#include "heroturn/options.h"
 #include "resolution/endturn.h"
 #include "shell/keyboard.h"
-#include "shell/nexthero.h"
 #include "shell/speech/pages.h"
 #include "shell/speech/progress.h"
 #include "shell/speech/speech.h"
 #include "world/chance.h"
 #include "world/drawnmap.h"
+#include "world/nexthero.h"
 #include "world/tables.h"
 
 namespace duskmarch {

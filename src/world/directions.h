@@ -37,6 +37,12 @@ struct Tile {
 inline Tile tileof(const Mob& mob) {
   return {mob.mobx, mob.moby};
 }
+inline bool at(const Mob& mob, Tile tile) {
+  return mob.mobx == tile.x && mob.moby == tile.y;
+}
+inline bool at(const Item& item, Tile tile) {
+  return item.itemx == tile.x && item.itemy == tile.y;
+}
 inline Tile step(Tile from, const Direction& direction, int tiles = 1) {
   return {from.x + direction.dx * tiles, from.y + direction.dy * tiles};
 }

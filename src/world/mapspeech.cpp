@@ -6,7 +6,7 @@
 #include "shell/speech/speech.h"
 #include "values/namelist.h"
 #include "world/narration.h"
-#include "world/tables.h"
+#include "world/whostands.h"
 
 namespace duskmarch {
 
@@ -20,22 +20,17 @@ std::string_view stateword(const Mob& mob) {
   return "";
 }
 
-std::vector<std::string> mobson(const Game& game, int x, int y, int side) {
+std::vector<std::string> mobson(const Game& game, Tile tile, int side) {
   std::vector<std::string> names;
-  for (int slot = 1; slot <= game.mobcount; ++slot) {
-    const Mob& mob = game.mob(slot);
-    if (!conscious(mob) || mob.aliance != side || !at(mob, x, y)) continue;
+  for (const Mob& mob : standingon(game, tile, side)) {
     names.push_back(sentence({stateword(mob), mob.mobname}));
   }
   return names;
 }
 
-std::vector<std::string> itemson(const Game& game, int x, int y) {
+std::vector<std::string> itemson(const Game& game, Tile tile) {
   std::vector<std::string> names;
-  for (int slot = 1; slot <= game.itemcount; ++slot) {
-    const Item& item = game.item(slot);
-    if (onthemap(item) && at(item, x, y)) names.push_back(item.itemname);
-  }
+  for (const Item& item : furnitureon(game, tile)) names.push_back(item.itemname);
   return names;
 }
 
@@ -45,9 +40,7 @@ std::string rollcallentry(std::string_view name, int x, int y) {
 
 void rollcall(Game& game, int side, std::string_view nobody) {
   std::string text;
-  for (int slot = 1; slot <= game.mobcount; ++slot) {
-    const Mob& mob = game.mob(slot);
-    if (!conscious(mob) || mob.aliance != side) continue;
+  for (const Mob& mob : standing(game, side)) {
     text += rollcallentry(mob.mobname, mob.mobx, mob.moby);
   }
   sayit(game, text.empty() ? nobody : text);
@@ -69,14 +62,14 @@ void saytile(Game& game, int x, int y) {
   std::string text = hastag(tags, tag::smoke) ? "Smokey " : "";
   text += saycoords(x) + " " + std::to_string(y) + ", ";
 
-  const auto heroes = mobson(game, x, y, aliance::heroes);
-  const auto enemies = mobson(game, x, y, aliance::enemies);
+  const auto heroes = mobson(game, {x, y}, aliance::heroes);
+  const auto enemies = mobson(game, {x, y}, aliance::enemies);
   if (const std::size_t count = heroes.size() + enemies.size(); count > 0) {
     text += std::to_string(count) + " here.  ";
     text += joinnames(heroes, ".  ") + joinnames(enemies, ".  ");
   }
   if (hastag(tags, tag::table)) text += "There is an overturned table here providing cover.  ";
-  if (const auto items = itemson(game, x, y); !items.empty()) {
+  if (const auto items = itemson(game, {x, y}); !items.empty()) {
     text += "There is a " + joinnames(items, " ") + "here.";
   }
   sayit(game, text);
@@ -92,9 +85,8 @@ void rollcallofenemies(Game& game) {
 
 void rollcalloffurniture(Game& game) {
   std::string text;
-  for (int slot = 1; slot <= game.itemcount; ++slot) {
-    const Item& item = game.item(slot);
-    if (onthemap(item)) text += rollcallentry(item.itemname, item.itemx, item.itemy);
+  for (const Item& item : furniture(game)) {
+    text += rollcallentry(item.itemname, item.itemx, item.itemy);
   }
   sayit(game, text.empty() ? "No furnature found" : text);
 }

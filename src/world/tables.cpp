@@ -89,7 +89,7 @@ Hundredths menhere(const Game& game, int shiftz, int x, int y, int side, std::st
   Hundredths count;
   for (int slot = shiftz; slot <= game.mobcount; ++slot) {
     const Mob& mob = game.mob(slot);
-    if (!at(mob, x, y) || !conscious(mob) || (side != -1 && mob.aliance != side)) continue;
+    if (!at(mob, {x, y}) || !conscious(mob) || (side != -1 && mob.aliance != side)) continue;
     count += weighed ? fightweight(mob) : Hundredths::whole(1);
   }
   return count;
@@ -106,7 +106,7 @@ std::vector<int> slotsagainst(const Game& game, int side) {
 int itemshere(const Game& game, int shiftz, int x, int y) {
   int count = 0;
   for (int slot = shiftz; slot <= game.itemcount; ++slot) {
-    if (onthemap(game.item(slot)) && at(game.item(slot), x, y)) ++count;
+    if (onthemap(game.item(slot)) && at(game.item(slot), {x, y})) ++count;
   }
   return count;
 }
@@ -114,7 +114,7 @@ int itemshere(const Game& game, int shiftz, int x, int y) {
 int finditem(const Game& game, int x, int y, std::string_view name) {
   for (int slot = game.itemcount; slot >= 1; --slot) {
     const Item& item = game.item(slot);
-    if (onthemap(item) && at(item, x, y) && item.itemname == name) return slot;
+    if (onthemap(item) && at(item, {x, y}) && item.itemname == name) return slot;
   }
   return 0;
 }

@@ -7,6 +7,7 @@
 
 #include "game.h"
 #include "values/hundredths.h"
+#include "world/directions.h"
 
 namespace duskmarch {
 
@@ -16,14 +17,8 @@ inline bool conscious(const Mob& mob) {
 inline bool onthemap(const Item& item) {
   return item.itemhealth > 0;
 }
-inline bool at(const Mob& mob, int x, int y) {
-  return mob.mobx == x && mob.moby == y;
-}
-inline bool at(const Item& item, int x, int y) {
-  return item.itemx == x && item.itemy == y;
-}
 inline bool sametile(const Mob& one, const Mob& other) {
-  return at(one, other.mobx, other.moby);
+  return at(one, tileof(other));
 }
 
 // Everything a mission says of one enemy; see newmob().

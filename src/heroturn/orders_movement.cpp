@@ -1,12 +1,12 @@
 #include <string>
 #include <vector>
 
-#include "heroturn/heroactions.h"
 #include "heroturn/messagelog.h"
+#include "heroturn/orders.h"
 #include "resolution/tags.h"
 #include "values/namelist.h"
 #include "world/narration.h"
-#include "world/tables.h"
+#include "world/whostands.h"
 
 namespace duskmarch {
 
@@ -20,11 +20,14 @@ void rememberstart(Mob& hero, const Direction& direction) {
   }
 }
 
+void takeastep(const Deed& deed) {
+  rememberstart(deed.hero, deed.direction);
+  place(deed.hero, step(tileof(deed.hero), deed.direction));
+}
+
 // Knocks down the unhindered enemies on a tile that the hook passes, and adds their names.
 void knockdown(Game& game, Tile tile, const Direction& direction, std::vector<std::string>& names) {
-  for (int slot = 1; slot <= game.mobcount; ++slot) {
-    Mob& mob = game.mob(slot);
-    if (!conscious(mob) || mob.aliance != aliance::enemies || !at(mob, tile.x, tile.y)) continue;
+  for (Mob& mob : standingon(game, tile, aliance::enemies)) {
     if (!mob.status.empty()) continue;
     place(mob, keptonthemap(game, step(tile, direction)));
     addtag(mob.status, tag::dazed);
@@ -35,17 +38,15 @@ void knockdown(Game& game, Tile tile, const Direction& direction, std::vector<st
 
 }  // namespace
 
-void option::move(Game& game, Mob& hero, const Direction& direction) {
-  rememberstart(hero, direction);
-  place(hero, step(tileof(hero), direction));
-  hero.hasmoved = 1;
-  list1additem(game, sentence({hero.mobname, " moves to the ", direction.word, ".  "}));
+void order::move(const Deed& deed) {
+  takeastep(deed);
+  list1additem(deed.game,
+               sentence({deed.hero.mobname, " moves to the ", deed.direction.word, ".  "}));
 }
 
-void option::dive(Game& game, Mob& hero, const Direction& direction) {
-  rememberstart(hero, direction);
-  place(hero, step(tileof(hero), direction));
-  spendaction(game, hero, "Dive");
+void order::dive(const Deed& deed) {
+  const auto& [game, hero, other, item, direction] = deed;
+  takeastep(deed);
   if (hero.engaged == 1) {
     list1additem(game, sentence({hero.mobname, " dives ", direction.word, ", out of a fight.  "}));
   } else if (hero.hasmoved == 0) {
@@ -56,9 +57,9 @@ void option::dive(Game& game, Mob& hero, const Direction& direction) {
   }
 }
 
-void option::hook(Game& game, Mob& hero, const Direction& direction) {
+void order::hook(const Deed& deed) {
+  const auto& [game, hero, other, item, direction] = deed;
   rememberstart(hero, direction);
-  spendaction(game, hero, "Hook");
   const Tile start = tileof(hero);
   const int reach = tilestotheedge(game, start, direction);
   std::vector<std::string> names;

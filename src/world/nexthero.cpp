@@ -1,4 +1,4 @@
-#include "shell/nexthero.h"
+#include "world/nexthero.h"
 
 #include "world/tables.h"
 

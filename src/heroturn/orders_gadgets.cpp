@@ -3,12 +3,14 @@
 #include <string>
 #include <vector>
 
-#include "heroturn/heroactions.h"
+#include "heroturn/abilitynumbers.h"
 #include "heroturn/messagelog.h"
+#include "heroturn/orders.h"
 #include "resolution/tags.h"
 #include "values/namelist.h"
+#include "world/knockout.h"
 #include "world/narration.h"
-#include "world/tables.h"
+#include "world/whostands.h"
 
 namespace duskmarch {
 
@@ -22,10 +24,8 @@ std::string disarm(Mob& gunman) {
 }
 
 // The enemies on a smoking tile forget what they were about; adds their names.
-void chokeenemies(Game& game, int x, int y, std::vector<std::string>& names) {
-  for (int slot = 1; slot <= game.mobcount; ++slot) {
-    Mob& mob = game.mob(slot);
-    if (!conscious(mob) || mob.aliance != aliance::enemies || !at(mob, x, y)) continue;
+void chokeenemies(Game& game, Tile tile, std::vector<std::string>& names) {
+  for (Mob& mob : standingon(game, tile, aliance::enemies)) {
     mob.action.clear();
     mob.target = 0;
     names.push_back(mob.mobname);
@@ -34,8 +34,8 @@ void chokeenemies(Game& game, int x, int y, std::vector<std::string>& names) {
 
 }  // namespace
 
-void option::blast(Game& game, Mob& hero, Mob& foe) {
-  spendaction(game, hero, "Blast");
+void order::blast(const Deed& deed) {
+  const auto& [game, hero, foe, item, direction] = deed;
   foe.health -= hero.gun;
   std::string line =
       sentence({hero.mobname, " aims at ", foe.mobname, " and lets loose an energy blast, causing ",
@@ -51,56 +51,53 @@ void option::blast(Game& game, Mob& hero, Mob& foe) {
   list1additem(game, line);
 }
 
-void option::bolas(Game& game, Mob& hero, Mob& foe) {
-  spendaction(game, hero, "Bolas");
-  foe.fight = foe.fight / 5;
+void order::bolas(const Deed& deed) {
+  const auto& [game, hero, foe, item, direction] = deed;
+  foe.fight = foe.fight / number::bolasdivisor;
   const std::string_view himher = himorher(foe.gender);
   list1additem(game, sentence({hero.mobname, " flings a bolas at ", foe.mobname,
                                ", binding and tying around ", himher, " and making it hard for ",
                                himher, " to fight.  "}));
 }
 
-void option::net(Game& game, Mob& hero, Mob& foe) {
-  spendaction(game, hero, "Net");
-  addtag(foe.status, tag::netted, 2);
+void order::net(const Deed& deed) {
+  const auto& [game, hero, foe, item, direction] = deed;
+  addtag(foe.status, tag::netted, number::netturns);
   list1additem(game,
                sentence({hero.mobname, " throws a net which twists and wraps around ", foe.mobname,
                          "'s legs, holding ", himorher(foe.gender), " in place.  "}));
 }
 
-void option::pin(Game& game, Mob& hero, Mob& foe) {
-  spendaction(game, hero, "Pin");
-  addtag(foe.status, tag::pinned, 2);
+void order::pin(const Deed& deed) {
+  const auto& [game, hero, foe, item, direction] = deed;
+  addtag(foe.status, tag::pinned, number::pinturns);
   list1additem(game, sentence({hero.mobname, " throws a knife which stabs through ", foe.mobname,
                                "'s clothes and pins ", himorher(foe.gender), " to the wall.  "}));
 }
 
-void option::grapnel(Game& game, Mob& hero, Mob& foe) {
-  spendaction(game, hero, "Grapnel");
+void order::grapnel(const Deed& deed) {
+  const auto& [game, hero, foe, item, direction] = deed;
   place(foe, tileof(hero));
-  foe.health -= 6;
+  foe.health -= number::grapneldamage;
   foe.action.clear();
   addtag(foe.status, tag::dazed);
   std::string line =
       sentence({hero.mobname, " fires a small grapnelling hook into ", foe.mobname, ", yanks ",
                 himorher(foe.gender), " through the air, and stops ", hisorher(foe.gender),
-                " flight with a powerful punch to the face.  ", foe.mobname});
+                " flight with a powerful punch to the face.  ", foe.mobname, " takes ",
+                std::to_string(number::grapneldamage), " damage and hits the floor "});
   if (conscious(foe)) {
-    line += " takes 6 damage and hits the floor dazed.  ";
+    line += "dazed.  ";
   } else {
-    line += " takes 6 damage and hits the floor completely unconscious.  ";
+    line += "completely unconscious.  ";
     creditknockout(hero);
   }
   list1additem(game, line);
 }
 
-bool option::lackshealth(const Mob& mob) {
-  return mob.health < mob.maxhealth;
-}
-
-void option::heal(Game& game, Mob& hero, Mob& ally) {
-  const int amount = std::min(ally.maxhealth - ally.health, 10);
-  spendaction(game, hero, "Heal");
+void order::heal(const Deed& deed) {
+  const auto& [game, hero, ally, item, direction] = deed;
+  const int amount = std::min(ally.maxhealth - ally.health, number::healing);
   ally.health += amount;
   std::string line = hero.mobname + " heals ";
   line += &ally == &hero ? sentence({himorher(hero.gender), "self"}) : ally.mobname;
@@ -109,16 +106,15 @@ void option::heal(Game& game, Mob& hero, Mob& ally) {
   list1additem(game, line);
 }
 
-void option::shield(Game& game, Mob& hero) {
+void order::shield(const Deed& deed) {
+  const auto& [game, hero, other, item, direction] = deed;
   int allies = 0;
-  for (int slot = 1; slot <= game.mobcount; ++slot) {
-    Mob& mob = game.mob(slot);
-    if (&mob == &hero || !conscious(mob) || mob.aliance != hero.aliance) continue;
+  for (Mob& mob : standing(game, hero.aliance)) {
+    if (&mob == &hero) continue;
     addtag(mob.action, tag::shield);
     ++allies;
   }
   addtag(hero.action, tag::shield);
-  spendaction(game, hero, "Shield");
   const std::string_view his = hisorher(hero.gender);
   std::string line = sentence({hero.mobname, " raises ", his, " shield "});
   if (allies == 0) {
@@ -130,15 +126,17 @@ void option::shield(Game& game, Mob& hero) {
   list1additem(game, line);
 }
 
-void option::smokebombs(Game& game, Mob& hero) {
-  spendaction(game, hero, "Smoke bombs");
+void order::smokebombs(const Deed& deed) {
+  const auto& [game, hero, other, item, direction] = deed;
   std::vector<std::string> names;
   for (int x = 1; x <= game.mapwidth; ++x) {
     for (int y = 1; y <= game.mapheight; ++y) {
       const int distance = std::abs(hero.mobx - x) + std::abs(hero.moby - y);
-      if (distance > 2) continue;
-      addtiletag(game, x, y, tag::smoke, distance <= 1 ? 4 : 2);
-      chokeenemies(game, x, y, names);
+      if (distance > number::smokereach) continue;
+      addtiletag(
+          game, x, y, tag::smoke,
+          distance <= number::thicksmokereach ? number::thicksmoketurns : number::smoketurns);
+      chokeenemies(game, {x, y}, names);
     }
   }
   list1additem(
@@ -148,8 +146,8 @@ void option::smokebombs(Game& game, Mob& hero) {
                 joinnames(names, " is gasping in the smoke.  ", " are gasping in the smoke.  ")}));
 }
 
-void option::secondwind(Game& game, Mob& hero) {
-  spendaction(game, hero, "Second wind");
+void order::secondwind(const Deed& deed) {
+  const auto& [game, hero, other, item, direction] = deed;
   hero.fight = hero.maxfight;
   list1additem(game, sentence({hero.mobname, " has gained a burst of inner strength, putting ",
                                himorher(hero.gender), " back to full fighting capacity.  "}));

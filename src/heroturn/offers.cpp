@@ -1,0 +1,196 @@
+#include "heroturn/offers.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+#include "heroturn/abilitynumbers.h"
+#include "resolution/tags.h"
+#include "world/narration.h"
+#include "world/whostands.h"
+
+namespace duskmarch {
+
+namespace {
+
+bool foe(const Mob& mob, const Mob& other) {
+  return other.aliance != mob.aliance;
+}
+
+// Columns and rows together: nobody steps aslant.
+int tilesapart(const Mob& mob, const Mob& other) {
+  return std::abs(mob.mobx - other.mobx) + std::abs(mob.moby - other.moby);
+}
+
+bool foewithin(const Mob& mob, const Mob& other, int reach) {
+  return foe(mob, other) && !sametile(mob, other) && tilesapart(mob, other) <= reach;
+}
+
+const Order* firstorderof(std::string_view ability) {
+  return std::ranges::find(orders, ability, &Order::ability);
+}
+
+// Calls `use` for each ability of which a use is left, in the mob's own order.
+template <typename Use>
+void foreachability(const Mob& mob, Use use) {
+  for (int k = 1; k <= mob.abilitycount; ++k) {
+    const Ability& ability = mob.abilities[static_cast<std::size_t>(k)];
+    if (ability.abilityuses > 0) use(ability.abilityname);
+  }
+}
+
+bool servesasawayout(const Game& game, const Mob& mob, const Order& row) {
+  if (!row.waysout) return false;
+  if (row.upon == nullptr) return true;
+  const auto here = standingon(game, tileof(mob));
+  return std::any_of(here.begin(), here.end(),
+                     [&](const Mob& other) { return row.upon(game, mob, other); });
+}
+
+// A fight holds the mob, it strikes no blow of its own, and none of its abilities would change
+// that: what is left is to fight.
+bool helplesslyheld(const Game& game, const Mob& mob) {
+  if (mob.engaged != 1 || hastag(mob.action, tag::fight)) return false;
+  bool helpless = true;
+  foreachability(mob, [&](std::string_view ability) {
+    for (const Order* row = firstorderof(ability); row != orders.end() && row->ability == ability;
+         ++row) {
+      if (servesasawayout(game, mob, *row)) helpless = false;
+    }
+  });
+  return helpless;
+}
+
+class Listing {
+ public:
+  Listing(const Game& game, const Mob& mob) : game_(game), mob_(mob) {}
+
+  // What needs no ability and no furniture.
+  void offerbasics() { offerorders({}); }
+
+  void offerabilities() {
+    foreachability(mob_, [this](std::string_view ability) {
+      offerorders(ability);
+      offerfurniture(ability);
+    });
+  }
+
+  // The orders that take furniture, piece by piece.
+  void offerfurniture(std::string_view ability) {
+    for (const Item& item : furnitureon(game_, tileof(mob_))) {
+      foreachrow(ability, [&](const Order& row) {
+        if (row.furniture == item.itemname) offers_.push_back({&row});
+      });
+    }
+  }
+
+  std::vector<Offer> done() && { return std::move(offers_); }
+
+ private:
+  template <typename Take>
+  static void foreachrow(std::string_view ability, Take take) {
+    for (const Order* row = firstorderof(ability); row != orders.end() && row->ability == ability;
+         ++row) {
+      take(*row);
+    }
+  }
+
+  void offerorders(std::string_view ability) {
+    foreachrow(ability, [this](const Order& row) {
+      if (row.furniture.empty()) offer(row);
+    });
+  }
+
+  void offer(const Order& row) {
+    if (row.upon == nullptr) {
+      if (row.when == nullptr || row.when(mob_)) offers_.push_back({&row});
+      return;
+    }
+    for (const Mob& other : standing(game_)) {
+      if (row.upon(game_, mob_, other)) offers_.push_back({&row, slotof(game_, other)});
+    }
+  }
+
+  const Game& game_;
+  const Mob& mob_;
+  std::vector<Offer> offers_;
+};
+
+}  // namespace
+
+bool upon::whomtofight(const Game& game, const Mob& mob, const Mob& other) {
+  if (!foehere(game, mob, other)) return false;
+  return other.action.empty() || mob.target != slotof(game, other) || helplesslyheld(game, mob);
+}
+bool upon::foehere(const Game&, const Mob& mob, const Mob& other) {
+  return foe(mob, other) && sametile(mob, other);
+}
+// Nobody knocks himself out on purpose.
+bool upon::foetobutt(const Game& game, const Mob& mob, const Mob& other) {
+  return mob.health > number::headbuttcost && foehere(game, mob, other);
+}
+bool upon::foebeside(const Game&, const Mob& mob, const Mob& other) {
+  return foewithin(mob, other, 1);
+}
+bool upon::foeinreachofblast(const Game&, const Mob& mob, const Mob& other) {
+  return foewithin(mob, other, number::blastreach);
+}
+bool upon::foeinreachofbolas(const Game&, const Mob& mob, const Mob& other) {
+  return foewithin(mob, other, number::bolasreach);
+}
+bool upon::foeinreachofnet(const Game&, const Mob& mob, const Mob& other) {
+  return foewithin(mob, other, number::netreach);
+}
+bool upon::foeinline(const Game&, const Mob& mob, const Mob& other) {
+  return foe(mob, other) && (mob.mobx == other.mobx) != (mob.moby == other.moby);
+}
+bool upon::foeatthewall(const Game& game, const Mob& mob, const Mob& other) {
+  return foe(mob, other) && (other.mobx == 1 || other.mobx == game.mapwidth || other.moby == 1 ||
+                             other.moby == game.mapheight);
+}
+bool upon::ally(const Game&, const Mob& mob, const Mob& other) {
+  return !foe(mob, other);
+}
+
+bool when::freetomove(const Mob& mob) {
+  return mob.engaged == 0 && mob.hasmoved == 0;
+}
+bool when::fightingsomebody(const Mob& mob) {
+  return mob.target != 0 && hastag(mob.action, tag::fight);
+}
+
+bool lackshealth(const Mob& mob) {
+  return mob.health < mob.maxhealth;
+}
+
+std::vector<Offer> offers(const Game& game, int slot) {
+  const Mob& mob = game.mob(slot);
+  if (!conscious(mob) || hastag(mob.status, tag::dazed)) return {};
+  Listing listing(game, mob);
+  listing.offerbasics();
+  if (mob.hasacted == 0) {
+    listing.offerabilities();
+    listing.offerfurniture({});
+  }
+  return std::move(listing).done();
+}
+
+std::string offertext(const Game& game, const Offer& offer) {
+  if (offer.other == 0) return std::string(offer.order->name);
+  return sentence({offer.order->name, " ", game.mob(offer.other).mobname});
+}
+
+OptionLine readoption(std::string_view line) {
+  OptionLine found;
+  for (const Order& row : orders) {
+    if (!line.starts_with(row.name)) continue;
+    // Of two orders that begin alike ("Throw" and "Throw chair") the longer one is meant.
+    if (found.order != nullptr && row.name.size() < found.order->name.size()) continue;
+    const std::string_view rest = line.substr(row.name.size());
+    const bool uponsomebody = row.upon != nullptr;
+    const bool fits = uponsomebody ? rest.starts_with(' ') : rest.empty();
+    if (fits) found = {&row, uponsomebody ? rest.substr(1) : rest};
+  }
+  return found;
+}
+
+}  // namespace duskmarch

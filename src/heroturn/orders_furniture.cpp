@@ -1,0 +1,101 @@
+#include <string>
+#include <vector>
+
+#include "heroturn/abilitynumbers.h"
+#include "heroturn/messagelog.h"
+#include "heroturn/orders.h"
+#include "resolution/tags.h"
+#include "values/namelist.h"
+#include "world/furniture.h"
+#include "world/knockout.h"
+#include "world/narration.h"
+#include "world/whostands.h"
+
+namespace duskmarch {
+
+namespace {
+
+void knockover(Mob& victim) {
+  addtag(victim.status, tag::dazed);
+  victim.action.clear();
+}
+
+// The first enemy in line between the hero and the edge of the map; null when there is none.
+Mob* firstenemy(Game& game, const Mob& hero, const Direction& direction) {
+  const int reach = tilestotheedge(game, tileof(hero), direction);
+  for (int tiles = 1; tiles <= reach; ++tiles) {
+    const auto enemies = standingon(game, step(tileof(hero), direction, tiles), aliance::enemies);
+    if (!enemies.empty()) return &*enemies.begin();
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+void order::fliptable(const Deed& deed) {
+  deed.item.itemhealth = 0;
+  addtiletag(deed.game, deed.hero.mobx, deed.hero.moby, tag::table, 1);
+}
+
+void order::throwtable(const Deed& deed) {
+  const auto& [game, hero, other, table, direction] = deed;
+  const Tile landing = keptonthemap(game, step(tileof(hero), direction));
+  std::vector<std::string> hit;
+  std::vector<std::string> knockedout;
+  for (Mob& mob : standingon(game, landing, aliance::enemies)) {
+    knockover(mob);
+    mob.health -= tabledamage;
+    hit.push_back(mob.mobname);
+    if (conscious(mob)) continue;
+    knockedout.push_back(mob.mobname);
+    creditknockout(hero);
+  }
+  crash(table, landing);
+  const std::string knockedover = sentence({" knocked over by the incoming table, suffering ",
+                                            std::to_string(tabledamage), " damage.  "});
+  std::string line = sentence(
+      {hero.mobname, " lifts and throws a table ", direction.word, ".  ",
+       joinnames(hit, " was" + knockedover, " were" + knockedover),
+       joinnames(knockedout, " was knocked unconscious.  ", " were knocked unconscious.  ")});
+  if (!onthemap(table)) line += "The table has splintered into scraps of wood.  ";
+  list1additem(game, line);
+}
+
+void order::throwchair(const Deed& deed) {
+  const auto& [game, hero, other, chair, direction] = deed;
+  std::string line =
+      sentence({hero.mobname, " grabs a chair and hurls it ", direction.word, ".  "});
+  if (Mob* const victim = firstenemy(game, hero, direction)) {
+    victim->health -= chairdamage;
+    knockover(*victim);
+    line += sentence({victim->mobname, " was hit by it and suffered ", std::to_string(chairdamage),
+                      " damage.  "});
+    if (!conscious(*victim)) {
+      line += victim->mobname + " was knocked unconscious by the impact.  ";
+      creditknockout(hero);
+    }
+    crash(chair, tileof(*victim));
+  }
+  list1additem(game, line);
+}
+
+void order::throwperson(const Deed& deed) {
+  const auto& [game, hero, thrown, item, direction] = deed;
+  const Tile landing = keptonthemap(game, step(tileof(hero), direction));
+  std::vector<std::string> victims;
+  for (Mob& mob : standingon(game, landing, aliance::enemies)) {
+    if (!mob.status.empty()) continue;
+    knockover(mob);
+    victims.push_back(mob.mobname);
+  }
+  place(thrown, landing);
+  thrown.action.clear();
+  thrown.target = 0;
+  addtag(thrown.status, tag::dazed, number::throwndaze);
+  removeeverytag(thrown.status, tag::pinned);
+  const std::string ending = " knocked over as " + thrown.mobname + " came crashing down.  ";
+  list1additem(game, sentence({hero.mobname, " hurls ", thrown.mobname, " ", direction.word, ".  ",
+                               joinnames(victims, " was" + ending, " were" + ending)}));
+}
+
+}  // namespace duskmarch
