@@ -27,6 +27,39 @@ TEST(Creation, ANameIsTakenInAnyLetterCase) {
   EXPECT_EQ(recruit(player, 2, "Alva"), Spoken{"Alva recruited.  Back at the hideout."});
 }
 
+TEST(Creation, ANameIsNeitherAPlanNorFurniture) {
+  const struct {
+    std::string typed, name, spoken;
+  } cases[] = {
+      {"[Shoot,1,1]", "Shoot,1,1", "Name set to Shoot,1,1"},
+      {"O\twl\x7f\x01", "Owl", "Name set to Owl"},
+      {" [ ]", "PersonMan", "Canceled."},
+      {"c[h]AIR", "PersonMan", "This name cannot be used."},
+      {"Table", "PersonMan", "This name cannot be used."},
+      {"Tables", "Tables", "Name set to Tables"},
+  };
+  for (const auto& [typed, name, spoken] : cases) {
+    Player player;
+    perform(player, 1);
+    perform(player, 1);
+    player.game().speechmode = 1;
+    reach(player, 1);
+    player.answer(typed);
+    player.press(key::enter);
+    EXPECT_EQ(player.game().saidlines[1], spoken) << typed;
+    EXPECT_EQ(player.game().mob(1).mobname, name) << typed;
+  }
+}
+
+TEST(Creation, WhoeverWasNeverAskedIsAMan) {
+  Player player;
+  perform(player, 1);
+  perform(player, 1);
+  player.press(key::escape);  // to the entry that finishes
+  player.press(key::enter);
+  EXPECT_EQ(player.game().mob(1).gender, gender::male);
+}
+
 TEST(Creation, BonusesGrantAbilitiesThirdToFirst) {
   struct Choice {
     std::array<int, 3> changes;

@@ -147,7 +147,7 @@ TEST(Missions, ADefeatGivesNothingBack) {
   game.mob(1).earnedpoints = 3;
   knockout(game, 1);
   game.menuname = screen::options;
-  const Player::Events defeat{"voice\t", "message\tDefeat\tMission failed!"};
+  const Player::Events defeat{"voice\t", "message\tDefeat\tMission failed!", "voice\tMain menu."};
   EXPECT_EQ(player.during([&] { endcheck(game); }), defeat);
   EXPECT_EQ(game.mob(1).upgradepoints, 0);
   EXPECT_EQ(game.mob(1).abilities[1].abilityuses, 1);
@@ -156,6 +156,20 @@ TEST(Missions, ADefeatGivesNothingBack) {
   // When nobody at all is left, the heroes have won.
   game.turnnumber = 3;
   EXPECT_EQ(player.during([&] { endcheck(game); })[1], "message\tVictory\tMission complete!");
+}
+
+TEST(Missions, WithoutAPageThePlayerIsToldWhereHeIs) {
+  Player player;
+  Game& game = player.game();
+  startmission(game, 3);
+  for (int slot = 4; slot <= game.mobcount; ++slot) knockout(game, slot);
+  game.turnnumber = 7;
+  EXPECT_EQ(player.during([&] { endcheck(game); }),
+            (Player::Events{"voice\t", "message\tVictory\tMission complete!",
+                            "voice\tBack at the hideout."}));
+  game.missionnumber = 4;
+  EXPECT_EQ(player.during([&] { startusout(game); }),
+            Player::Events{"voice\tMission 4 has not been written yet."});
 }
 
 TEST(Missions, TheTestMissionLeavesNoEnemyAmongTheHeroes) {

@@ -45,28 +45,45 @@ void speakname(Game& game) {
                            : name + ".  Press Enter to set a new name.");
 }
 
-// A name is one word, and one line of the saved game.
-std::string withoutgaps(std::string text) {
-  std::erase_if(text, [](char c) { return c == ' ' || c == '\r' || c == '\n'; });
+// A name is one word and one line of the saved game, and no bracket in it passes for a plan.
+std::string asname(std::string text) {
+  std::erase_if(text, [](char c) {
+    const auto byte = static_cast<unsigned char>(c);
+    return byte <= ' ' || byte == 0x7F || c == '[' || c == ']';
+  });
   return text;
+}
+
+// Whoever bore these names would be thrown in place of the furniture.
+bool meansfurniture(std::string_view name) {
+  return equalignoringcase(name, "chair") || equalignoringcase(name, "table");
 }
 
 void askname(Game& game) {
   constexpr std::string_view prompt = "Enter your vigilantes name, or leave blank to cancel.";
   const bool ownvoice = game.speechmode == 0;
   if (ownvoice) sayit(game, prompt);
-  const std::string name = withoutgaps(inputbox(game, "Name", prompt, ownvoice));
+  const std::string name = asname(inputbox(game, "Name", prompt, ownvoice));
   if (name.empty()) {
     sayit(game, "Canceled.");
+    return;
+  }
+  if (meansfurniture(name)) {
+    sayit(game, "This name cannot be used.");
     return;
   }
   newcomer(game).mobname = name;
   sayit(game, "Name set to " + name);
 }
 
+// Nobody has chosen yet.
+void settlegender(Mob& hero) {
+  if (hero.gender < gender::male || hero.gender > gender::genderless) hero.gender = gender::male;
+}
+
 void speakgender(Game& game) {
-  Number& chosen = newcomer(game).gender;
-  if (chosen < gender::male || chosen > gender::genderless) chosen = gender::male;
+  settlegender(newcomer(game));
+  const Number& chosen = newcomer(game).gender;
   sayit(game, "This vigilante is " + std::string(words(chosen).described) +
                   ".  Press Enter to change it.");
 }
@@ -115,6 +132,7 @@ bool nametaken(Game& game) {
 }
 
 void startvalues(Mob& hero) {
+  settlegender(hero);
   hero.aliance = aliance::heroes;
   hero.mobtype = mobtype::hero;
   hero.maxhealth = 8;

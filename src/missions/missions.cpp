@@ -148,13 +148,15 @@ void win(Game& game) {
   game.menuname = screen::hideout;
   game.menupos = 0;
   const Mission* const mission = findmission(game.missionnumber);
-  if (mission != nullptr && mission->ending) finish(game, *mission->ending);
+  if (mission == nullptr || !mission->ending) return sayit(game, "Back at the hideout.");
+  finish(game, *mission->ending);
 }
 
 void lose(Game& game) {
   announce(game, "Defeat", "Mission failed!");
   game.menuname = screen::mainmenu;
   game.menupos = 0;
+  sayit(game, "Main menu.");
 }
 
 }  // namespace
@@ -167,6 +169,9 @@ void startusout(Game& game) {
   bringtogether(game);
   if (const Mission* const mission = findmission(game.missionnumber); mission != nullptr) {
     setup(game, *mission);
+  } else {
+    sayit(game,
+          sentence({"Mission ", std::to_string(game.missionnumber), " has not been written yet."}));
   }
   listoptions(game, 0);
 }
