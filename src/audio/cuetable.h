@@ -1,0 +1,41 @@
+// The cues of a fight and of the map, and the loops of places: one row a sound.
+#pragma once
+
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace duskmarch {
+
+// The files of a kind are equally loud; `loudness` below tells them apart.
+enum class CueKind { fight, map };
+
+// What must stay when there are too many cues at once: the higher, the longer it is kept.
+enum class CueWeight { footstep, event, outcome, herohurt };
+
+struct CueRow {
+  std::string_view name;  // as transcripts tell it; also that of its file
+  CueKind kind;
+  int loudness;  // hundredths of a decibel, 0 or less
+  CueWeight weight;
+  std::string_view meaning;  // for the page that lists the sounds
+};
+
+struct AmbienceRow {
+  std::string_view name;
+  int loudness;
+  std::string_view meaning;
+};
+
+// In the order in which the page lists them.
+std::span<const CueRow> cuetable();
+std::span<const AmbienceRow> ambiencetable();
+// The row of that name, or null.
+const CueRow* findcue(std::string_view name);
+const AmbienceRow* findambience(std::string_view name);
+
+// The file, relative to the program folder.
+std::string fileof(const CueRow& cue);
+std::string fileof(const AmbienceRow& ambience);
+
+}  // namespace duskmarch
