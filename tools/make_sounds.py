@@ -1,17 +1,26 @@
 #!/usr/bin/env python3
 """Makes the WAV files in sounds/, the same bytes each time. Needs espeak-ng for the spoken names.
 
+    make_sounds.py [FOLDER ...]          makes sounds/menu, game, cues and ambience, or only those
+    make_sounds.py --check [FOLDER ...]  makes nothing; fails if the files are not what it would make
+
 All are mono and 16 bit, at the rate of the game's mixer, so that none is resampled when it is
-loaded. Loudness is the loudest 50 milliseconds, in decibels below full scale; the game's voice
-reaches about -15 by the same measure, and the sounds heard most often stay well below it.
+loaded. Loudness of the menu's and the game's is the loudest 50 milliseconds, in decibels below full
+scale; the game's voice reaches about -15 by the same measure, and the sounds heard most often stay
+well below it. The cues of a fight and the loops have a measure of their own, in soundmaking/.
 """
 
+import argparse
 import array
+import io
 import math
 import pathlib
 import subprocess
+import sys
 import tempfile
 import wave
+
+from soundmaking import cuefiles
 
 RATE = 48000
 SOUNDS = pathlib.Path(__file__).resolve().parent.parent / "sounds"
@@ -89,22 +98,61 @@ def resampled(samples, rate, reach=24):
     return result
 
 
-def write(name, samples, wanted):
+def wav(samples, wanted):
     factor = 32767 * 10 ** ((wanted - loudness(samples)) / 20)
-    data = array.array("h", (round(sample * factor) for sample in samples))
-    with wave.open(str(SOUNDS / name), "wb") as file:
-        file.setparams((1, 2, RATE, 0, "NONE", ""))
-        file.writeframes(data.tobytes())
+    return array.array("h", (round(sample * factor) for sample in samples))
 
 
 WOOD = ((1, 1.0), (2.76, 0.35))
 BELL = ((1, 1.0), (2, 0.3), (3, 0.12))
+ENGINES = {"SAPI": "sappy", "NVDA": "N V D A", "WE": "Window Eyes", "JAWS": "jaws"}
 
-write("menu/arrows.wav", tone(0.06, 880, 0.012, WOOD), -25)
-write("menu/enter.wav", together((0, tone(0.13, 440, 0.03, WOOD)),
-                                 (0.03, tone(0.13, 660, 0.035, BELL))), -20)
-write("menu/previous.wav", tone(0.2, lambda t: 620 * 2 ** (-t / 0.2), 0.09, BELL), -21)
-write("game/saved.wav", together((0, tone(0.3, 523.25, 0.09, BELL)),
-                                 (0.13, tone(0.42, 783.99, 0.12, BELL))), -20)
-for file, text in (("SAPI", "sappy"), ("NVDA", "N V D A"), ("WE", "Window Eyes"), ("JAWS", "jaws")):
-    write(f"menu/{file}.wav", spoken(text), -16)
+
+def menu():
+    yield "arrows", wav(tone(0.06, 880, 0.012, WOOD), -25)
+    yield "enter", wav(together((0, tone(0.13, 440, 0.03, WOOD)),
+                                (0.03, tone(0.13, 660, 0.035, BELL))), -20)
+    yield "previous", wav(tone(0.2, lambda t: 620 * 2 ** (-t / 0.2), 0.09, BELL), -21)
+    for name, text in ENGINES.items():
+        yield name, wav(spoken(text), -16)
+
+
+def game():
+    yield "saved", wav(together((0, tone(0.3, 523.25, 0.09, BELL)),
+                                (0.13, tone(0.42, 783.99, 0.12, BELL))), -20)
+
+
+def file_of(data):
+    if sys.byteorder == "big":
+        data.byteswap()
+    content = io.BytesIO()
+    with wave.open(content, "wb") as file:
+        file.setparams((1, 2, RATE, 0, "NONE", ""))
+        file.writeframes(data.tobytes())
+    return content.getvalue()
+
+
+def made(folder, check):
+    """Makes or compares a folder's files; whether all are as they should be."""
+    good = True
+    for name, data in FOLDERS[folder]():
+        path = SOUNDS / folder / f"{name}.wav"
+        content = file_of(data)
+        if not check:
+            path.parent.mkdir(exist_ok=True)
+            path.write_bytes(content)
+        elif not path.exists() or path.read_bytes() != content:
+            print(f"{path} is not what would be made")
+            good = False
+    return good
+
+
+FOLDERS = {"menu": menu, "game": game, "cues": cuefiles.cues, "ambience": cuefiles.ambience}
+
+if __name__ == "__main__":
+    parser = argparse.ArgumentParser()
+    parser.add_argument("--check", action="store_true")
+    parser.add_argument("folders", nargs="*", metavar="FOLDER")
+    asked = parser.parse_args()
+    results = [made(folder, asked.check) for folder in asked.folders or FOLDERS]
+    sys.exit(0 if all(results) else 1)
