@@ -1,9 +1,10 @@
 #include "values/utf8.h"
 
 #include <algorithm>
-#include <cwchar>
-#include <locale>
-#include <stdexcept>
+#include <cstdint>
+#include <span>
+
+#include "values/unicodetables.h"
 
 namespace duskmarch {
 namespace {
@@ -12,21 +13,17 @@ unsigned byteat(std::string_view text, std::size_t at) {
   return static_cast<unsigned char>(text[at]);
 }
 
-// A locale of our own: the global one belongs to the toolkits.
-std::locale unicodelocale() {
-  try {
-    return std::locale("C.UTF-8");
-  } catch (const std::runtime_error&) {
-    return std::locale::classic();
-  }
+// The row that holds `letter`, of rows in order; null when none does.
+template <class Row>
+const Row* rowof(std::span<const Row> rows, char32_t letter) {
+  const auto row = std::ranges::lower_bound(rows, letter, {}, &Row::last);
+  return row != rows.end() && row->first <= letter ? &*row : nullptr;
 }
 
-// Up and down again, because several small letters share one capital (both small sigmas).
 char32_t foldcase(char32_t letter) {
-  static const std::locale locale = unicodelocale();
-  static const auto& letters = std::use_facet<std::ctype<wchar_t>>(locale);
-  if (letter > std::min<char32_t>(0x10FFFF, WCHAR_MAX)) return letter;
-  return static_cast<char32_t>(letters.tolower(letters.toupper(static_cast<wchar_t>(letter))));
+  const unicode::Folding* row = rowof(unicode::foldings, letter);
+  if (row == nullptr || (letter - row->first) % row->step != 0) return letter;
+  return static_cast<char32_t>(static_cast<std::int32_t>(letter) + row->distance);
 }
 
 }  // namespace
@@ -65,6 +62,10 @@ std::string_view codepointrange(std::string_view text, std::size_t first, std::s
   std::size_t end = begin;
   for (; count > 0 && end < text.size(); --count) end += codepointsize(text, end);
   return text.substr(begin, end - begin);
+}
+
+bool printable(char32_t letter) {
+  return rowof(unicode::printable, letter) != nullptr;
 }
 
 bool equalignoringcase(std::string_view one, std::string_view other) {

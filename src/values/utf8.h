@@ -23,7 +23,10 @@ std::size_t codepoints(std::string_view text);
 std::size_t codepointsize(std::string_view text, std::size_t at);
 // `count` code points from code point `first` (from 0), fewer at the end of the text.
 std::string_view codepointrange(std::string_view text, std::size_t first, std::size_t count);
-// Whether two names are the same but for letter case, in any script the C library knows.
+// Whether Unicode has given it a meaning, other than to control something or to end a line.
+bool printable(char32_t letter);
+// Whether two names are the same but for letter case, in every script that has one; each letter by
+// itself, so that "ß" is not "SS".
 bool equalignoringcase(std::string_view one, std::string_view other);
 
 }  // namespace duskmarch
