@@ -2,7 +2,6 @@
 #pragma once
 
 #include <atomic>
-#include <csignal>
 #include <filesystem>
 #include <fstream>
 #include <functional>
@@ -12,22 +11,22 @@
 #include <vector>
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
-#include <unistd.h>
 
 #include "platform/replay/replaysession.h"
 #include "shell/speech/keycodes.h"
+#include "testsystem.h"
+#include "values/pathtext.h"
 #include "world/tables.h"
 
 namespace duskmarch {
 
-// A fresh folder with the game's sounds in it; gone with the object.
+// A fresh folder with the game's sounds in it, named as only Unicode can; gone with the object.
 class ProgramFolder {
  public:
   ProgramFolder() {
     static std::atomic<int> count = 0;
-    path = memoryfolder() /
-           ("duskmarch-test-" + std::to_string(getpid()) + "-" + std::to_string(++count));
+    path = scratchfolder() / pathof("duskmarch żółw ψ " + std::to_string(processid()) + "-" +
+                                    std::to_string(++count));
     std::filesystem::create_directories(path);
     std::filesystem::create_directories(path / "sounds");
     for (const std::string name : {"sounds/menu", "sounds/game"}) {
@@ -46,40 +45,16 @@ class ProgramFolder {
   ProgramFolder& operator=(const ProgramFolder&) = delete;
 
   void write(std::string_view name, std::string_view content) const {
-    std::ofstream(path / name, std::ios::binary) << content;
+    std::ofstream(path / pathof(name), std::ios::binary) << content;
   }
   // The content of a file; empty when there is none.
   std::string read(std::string_view name) const {
     std::ostringstream content;
-    content << std::ifstream(path / name, std::ios::binary).rdbuf();
+    content << std::ifstream(path / pathof(name), std::ios::binary).rdbuf();
     return content.str();
   }
 
   std::filesystem::path path;
-
- private:
-  // A soak opens a million small files; where there is a disk in memory they cost next to nothing.
-  static std::filesystem::path memoryfolder() {
-    const std::filesystem::path memory = "/dev/shm";
-    return access(memory.c_str(), W_OK) == 0 ? memory : std::filesystem::temp_directory_path();
-  }
-};
-
-// A disk on which files get no longer than so many bytes, while the object lives.
-class FullDisk {
- public:
-  explicit FullDisk(rlim_t bytes) {
-    std::signal(SIGXFSZ, SIG_IGN);
-    getrlimit(RLIMIT_FSIZE, &before_);
-    const rlimit full = {bytes, before_.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &full);
-  }
-  ~FullDisk() { setrlimit(RLIMIT_FSIZE, &before_); }
-  FullDisk(const FullDisk&) = delete;
-  FullDisk& operator=(const FullDisk&) = delete;
-
- private:
-  rlimit before_{};
 };
 
 class Player {

@@ -1,6 +1,8 @@
 // The two music players: what is asked of the desktop for them.
 #include "audio/music.h"
 
+#include <algorithm>
+
 #include "harness.h"
 
 namespace duskmarch {
@@ -20,6 +22,14 @@ struct NotedGraph : MusicGraph {
   std::string name;
 };
 
+// Where letter case does not count in names of files, a path keeps the letters that it was asked
+// by.
+std::string foundstem(const std::filesystem::path& file) {
+  std::string stem = file.stem().string();
+  std::ranges::transform(stem, stem.begin(), [](char c) { return static_cast<char>(c | 0x20); });
+  return stem;
+}
+
 struct MusicSystem : System {
   explicit MusicSystem(Calls& list) : calls(list) {}
   std::filesystem::path programfolder() const override { return {}; }
@@ -29,7 +39,7 @@ struct MusicSystem : System {
   std::unique_ptr<SoundDevice> opensound() override { return nullptr; }
   std::unique_ptr<MusicGraph> createmusic(const std::filesystem::path& file) override {
     if (file.stem() == "bad") throw PlatformError("no music");
-    return std::make_unique<NotedGraph>(calls, file.stem().string());
+    return std::make_unique<NotedGraph>(calls, foundstem(file));
   }
   bool readerattached() const override { return true; }
   void end() override {}

@@ -1,7 +1,5 @@
 #include "campaign/savegame.h"
 
-#include <sys/stat.h>
-
 #include "campaignkeys.h"
 
 namespace duskmarch {
@@ -100,7 +98,7 @@ TEST_F(SavedGame, WhatIsNoFileIsAnError) {
   EXPECT_EQ(save(), saveerror);
   EXPECT_FALSE(fs::exists(file("game.sav.bak")));
   fs::remove(file("game.sav"));
-  ASSERT_EQ(mkfifo(file("game.sav").c_str(), 0600), 0);
+  ASSERT_TRUE(makepipe(file("game.sav")));
   EXPECT_EQ(load(), loaderror);
   save();
   EXPECT_TRUE(fs::is_regular_file(file("game.sav")));

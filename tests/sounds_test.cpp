@@ -4,8 +4,6 @@
 #include <cmath>
 #include <limits>
 
-#include <sys/stat.h>
-
 #include "harness.h"
 
 namespace duskmarch {
@@ -80,17 +78,25 @@ TEST_F(Sounds, AMissingOrBadFileIsLoggedEachTimeAndTheBufferKeepsItsSound) {
   for (const char* name : {"  \\sounds\\none.wav ", "\\sounds\\none.wav", "/bad.wav"}) {
     EXPECT_EQ(played(name, 5), "play\t5\t0\t0\t0\tsounds/menu/arrows.wav");
   }
-  const std::string line = "File is missing: " + folder.path.string() + "\\sounds\\none.wav\r\n";
+  const std::string line = "File is missing: " + textof(folder.path) + "\\sounds\\none.wav\r\n";
   EXPECT_TRUE(log().starts_with(line + line + "error in setsound: ")) << log();
   EXPECT_EQ(game.bufferfile[5], arrows);
 }
 
+TEST_F(Sounds, NamesOfFilesAreUtf8) {
+  folder.write("sounds/Żółw ψ.wav", folder.read("sounds/menu/arrows.wav"));
+  for (const std::string asked : {"/sounds/Żółw ψ.wav", "\\SOUNDS\\Żółw ψ.WAV"}) {
+    EXPECT_TRUE(played(asked).ends_with("w ψ." + asked.substr(asked.size() - 3))) << asked;
+  }
+  EXPECT_EQ(log(), "");
+}
+
 TEST_F(Sounds, WhatIsNoFileIsMissingAndNothingWaitsForIt) {
-  ASSERT_EQ(mkfifo((folder.path / "pipe.wav").c_str(), 0600), 0);
+  ASSERT_TRUE(makepipe(folder.path / "pipe.wav"));
   std::filesystem::create_directory(folder.path / "folder.wav");
   for (const std::string name : {"/pipe.wav", "/folder.wav"}) {
     EXPECT_EQ(played(name), "");
-    EXPECT_TRUE(log().ends_with("File is missing: " + folder.path.string() + name + "\r\n"));
+    EXPECT_TRUE(log().ends_with("File is missing: " + textof(folder.path) + name + "\r\n"));
   }
 }
 

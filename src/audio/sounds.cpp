@@ -8,6 +8,7 @@
 
 #include "debuglog.h"
 #include "values/filelookup.h"
+#include "values/pathtext.h"
 #include "values/textfile.h"
 
 namespace duskmarch {
@@ -86,7 +87,7 @@ void setsound(Game& game, int buffer, std::string& name) {
     if (name.empty()) return;
     const std::filesystem::path* file = game.soundfinder.find(game.programfolder, name);
     if (file == nullptr) {
-      logline(game.programfolder, "File is missing: " + game.programfolder.string() + name);
+      logline(game.programfolder, "File is missing: " + textof(game.programfolder) + name);
       return;
     }
     std::string& held = fileof(game, buffer);

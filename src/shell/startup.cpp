@@ -12,6 +12,7 @@
 #include "shell/speech/pages.h"
 #include "shell/speech/progress.h"
 #include "shell/speech/speech.h"
+#include "values/pathtext.h"
 #include "world/chance.h"
 #include "world/drawnmap.h"
 #include "world/nexthero.h"
@@ -29,7 +30,7 @@ void reportearliercrash(const Game& game) {
   if (missing) return;
   const auto told = std::filesystem::last_write_time(game.programfolder / logfile, missing);
   if (!missing && told > crashed) return;
-  logline(game.programfolder, "An earlier run crashed.  Its last keys are in " + trace.string());
+  logline(game.programfolder, "An earlier run crashed.  Its last keys are in " + textof(trace));
 }
 
 void startspeech(Game& game) {

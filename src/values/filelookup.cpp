@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <system_error>
 
+#include "values/pathtext.h"
+
 namespace duskmarch {
 
 namespace {
@@ -25,11 +27,11 @@ bool isfile(const fs::path& file) {
 }
 
 std::optional<fs::path> findpart(const fs::path& folder, std::string_view part) {
-  if (fs::path exact = folder / part; present(exact)) return exact;
+  if (fs::path exact = folder / pathof(part); present(exact)) return exact;
   std::error_code error;
   for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
        entry.increment(error)) {
-    if (sameletters(entry->path().filename().string(), part)) return entry->path();
+    if (sameletters(textof(entry->path().filename()), part)) return entry->path();
   }
   return std::nullopt;
 }
@@ -38,7 +40,7 @@ std::optional<fs::path> findpart(const fs::path& folder, std::string_view part) 
 
 std::optional<fs::path> findfile(const fs::path& folder, std::string_view name) {
   const std::string tidy = tidyname(name);
-  if (fs::path exact = folder / tidy; present(exact)) return exact;
+  if (fs::path exact = folder / pathof(tidy); present(exact)) return exact;
   std::optional<fs::path> found = folder;
   for (std::size_t start = 0; found && start < tidy.size();) {
     const std::size_t end = std::min(tidy.find('/', start), tidy.size());

@@ -4,8 +4,6 @@
 #include <bit>
 #include <limits>
 
-#include <sys/stat.h>
-
 #include "../harness.h"
 #include "platform/sound/mixedsounds.h"
 
@@ -82,7 +80,7 @@ TEST(WavFiles, DamagedOnesAreRefused) {
 
 TEST(WavFiles, WhatIsNoRegularFileIsRefusedWithoutWaiting) {
   const ProgramFolder folder;
-  mkfifo((folder.path / "pipe.wav").c_str(), 0600);
+  ASSERT_TRUE(makepipe(folder.path / "pipe.wav"));
   for (const char* name : {"pipe.wav", "sounds", "none.wav"}) {
     EXPECT_THROW(readwav(folder.path / name), PlatformError) << name;
   }

@@ -6,8 +6,10 @@
 #include <string>
 #include <string_view>
 
+#include "platform/console.h"
 #include "platform/replay/replaysession.h"
 #include "platform/replay/seednumber.h"
+#include "values/pathtext.h"
 
 namespace {
 
@@ -23,7 +25,7 @@ struct BadArguments : std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-ReplayOptions parsearguments(std::span<char*> arguments) {
+ReplayOptions parsearguments(std::span<const std::string> arguments) {
   ReplayOptions options;
   std::size_t next = 1;
   const auto value = [&](std::string_view option) -> std::string_view {
@@ -33,7 +35,7 @@ ReplayOptions parsearguments(std::span<char*> arguments) {
   while (next < arguments.size()) {
     const std::string_view option = arguments[next++];
     if (option == "--folder") {
-      options.folder = value(option);
+      options.folder = pathof(value(option));
     } else if (option == "--seed") {
       const auto seed = parseseed(value(option));
       if (!seed) throw BadArguments("--seed needs a whole number");
@@ -50,7 +52,7 @@ ReplayOptions parsearguments(std::span<char*> arguments) {
   }
   if (options.folder.empty()) throw BadArguments("--folder is required");
   if (std::error_code error; !std::filesystem::is_directory(options.folder, error)) {
-    throw BadArguments("no such folder: " + options.folder.string());
+    throw BadArguments("no such folder: " + textof(options.folder));
   }
   return options;
 }
@@ -85,9 +87,10 @@ int play(const ReplayOptions& options) {
 }  // namespace
 
 int main(int count, char** arguments) {
+  usebinarystreams();
   std::ios::sync_with_stdio(false);
   try {
-    return play(parsearguments(std::span(arguments, static_cast<std::size_t>(count))));
+    return play(parsearguments(commandline(count, arguments)));
   } catch (const BadArguments& error) {
     std::cerr << "duskmarch-replay: " << error.what() << '\n' << usage << '\n';
     return failure;

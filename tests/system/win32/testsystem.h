@@ -1,0 +1,30 @@
+// What the tests ask of the system, and what they do to it. Tests that need more than it can do are
+// named in the file leftout beside this.
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <stdexcept>
+
+#include <process.h>
+
+namespace duskmarch {
+
+inline int processid() {
+  return _getpid();
+}
+
+inline std::filesystem::path scratchfolder() {
+  return std::filesystem::temp_directory_path();
+}
+
+inline bool makepipe(const std::filesystem::path&) {
+  return false;
+}
+
+class FullDisk {
+ public:
+  explicit FullDisk(std::size_t) { throw std::logic_error("no disk can be filled here"); }
+};
+
+}  // namespace duskmarch
