@@ -48,6 +48,15 @@ inline constexpr int female = 2;
 inline constexpr int genderless = 3;
 }  // namespace gender
 
+// `speechmode`: which engine speaks. What each does stands in shell/speech/speechengines.cpp.
+namespace speechmode {
+inline constexpr int sapi = 0;        // the game's own voice
+inline constexpr int nvda = 1;        // a screen reader that reads the window's title
+inline constexpr int windoweyes = 2;  // one that is asked by keys to read it
+inline constexpr int jaws = 3;        // JAWS, or the system's speech service
+inline constexpr int count = 4;
+}  // namespace speechmode
+
 struct Ability {
   std::string abilityname;
   Number abilityuses;   // left now
@@ -141,7 +150,7 @@ struct Game {  // NOLINT(clang-analyzer-optin.performance.Padding)
   bool writefailuretold = false;  // the player knows that settings are not saved
 
   // Speech.
-  int speechmode = 0;
+  int speechmode = speechmode::sapi;
   int sapirate = 2;
   std::unique_ptr<Voice> sapivoice;
   int sapiready = 0;
@@ -151,6 +160,9 @@ struct Game {  // NOLINT(clang-analyzer-optin.performance.Padding)
   SaidLines saidlines;
   int reviewpos = 0;     // 0: not reviewing; else the history line being reviewed
   int printedlines = 0;  // index of the last line that the previous sayit() painted
+  std::string addedsentences;  // of the game's own, to go with the next text; see addsentence()
+  bool storyshown = false;
+  std::string pageread;  // what was last read of the page that has the focus
 
   // Sound.
   std::unique_ptr<SoundDevice> dsound;

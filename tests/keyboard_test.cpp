@@ -211,7 +211,7 @@ TEST(SelfReading, PagesAndBoxesAreReadToAPlayerWithoutAReader) {
   const std::string paragraph = player.game().storylabel.substr(0, 150);
   EXPECT_EQ(player.spokenby(key::up).at(0).substr(0, 30), paragraph.substr(0, 30));
   EXPECT_EQ(player.spokenby(key::right), Lines{"i"});
-  EXPECT_EQ(player.press(key::down), Lines{"voice\t"});  // the empty line after the paragraph
+  EXPECT_EQ(player.press(key::down), Lines{"voice\tBlank."});  // the line after the paragraph
   EXPECT_EQ(player.game().saidlines[1],
             "Test mission where you control 2 established heroes "
             "against many foes.");

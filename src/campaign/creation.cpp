@@ -61,9 +61,7 @@ bool meansfurniture(std::string_view name) {
 
 void askname(Game& game) {
   constexpr std::string_view prompt = "Enter your vigilantes name, or leave blank to cancel.";
-  const bool ownvoice = game.speechmode == 0;
-  if (ownvoice) sayit(game, prompt);
-  const std::string name = asname(inputbox(game, "Name", prompt, ownvoice));
+  const std::string name = asname(inputbox(game, "Name", prompt));
   if (name.empty()) {
     sayit(game, "Canceled.");
     return;

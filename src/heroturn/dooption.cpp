@@ -33,9 +33,7 @@ std::optional<Direction> directionanswered(std::string_view answer) {
 std::optional<Direction> askdirection(Game& game) {
   static constexpr std::string_view prompt =
       "Enter N S E W to choose your direction, or leave blank to cancel.";
-  const bool spoken = game.speechmode == 0;
-  if (spoken) sayit(game, prompt);
-  const std::string answer = inputbox(game, "Choose direction", prompt, spoken);
+  const std::string answer = inputbox(game, "Choose direction", prompt);
   if (answer.empty()) {
     sayit(game, "Canceled.");
     return std::nullopt;

@@ -69,7 +69,8 @@ class Window {
 // A read-only text view that covers the window while it is shown, readable line by line by a
 // screen reader. Key presses in it reach the game through keypress() too; it keeps the ordinary
 // caret keys for itself, and tells the game by caretmoved() (shell/speech/selfreading.h) where they
-// led.
+// led: the line for keys that go by lines, the character for the others; the line as well where the
+// caret could not move, or came to the end of a line by End.
 class Page {
  public:
   virtual ~Page() = default;
@@ -79,12 +80,13 @@ class Page {
   virtual void focus() = 0;
 };
 
-// Modal: both return when the player has closed the box, and the window works on meanwhile.
+// Modal: both return when the player has closed the box, and the window works on meanwhile. Every
+// key in them is handed to boxkey(), and what it typed or came to then to echotyped() (both
+// shell/speech/selfreading.h); what Tab comes back to is told again.
 class Dialogs {
  public:
   virtual ~Dialogs() = default;
-  // What the player typed, or nothing when the box was cancelled. While no screen reader is
-  // attached every typed text is handed to echotyped() (shell/speech/selfreading.h).
+  // What the player typed, or nothing when the box was cancelled.
   virtual std::string input(std::string_view title, std::string_view prompt) = 0;
   // An empty title means the program's own.
   virtual void message(std::string_view title, std::string_view text) = 0;
@@ -110,8 +112,12 @@ class JawsApi {
   virtual ~JawsApi() = default;
   // Says `text` after what it is saying already.
   virtual void saystring(std::string_view text) = 0;
-  // The player pressed a key: like any screen reader, stop what is being said.
+  // The player pressed a key: like any screen reader, stop what is being said. An engine that sees
+  // to that itself, as JAWS does, does nothing here.
   virtual void interrupt() = 0;
+  // Whether the engine is there. A front end that has another one stand in for it creates this one
+  // in any case.
+  virtual bool there() { return true; }
 };
 
 // A sound device with numbered buffers for effects.

@@ -16,7 +16,9 @@
 #include "shell/speech/keycodes.h"
 #include "shell/speech/keyqueue.h"
 #include "shell/speech/pages.h"
+#include "shell/speech/selfreading.h"
 #include "shell/speech/speech.h"
+#include "shell/speech/speechengines.h"
 #include "shell/speech/speechsettings.h"
 #include "world/drawnmap.h"
 #include "world/mapspeech.h"
@@ -90,7 +92,7 @@ bool movecursor(Game& game, int keycode) {
 void opensummary(Game& game) {
   showsummary(game);
   sayit(game, "");
-  focussummary(game);
+  readsummary(game);
   game.desktop.window.processevents();
 }
 
@@ -185,6 +187,7 @@ void summarylabel_keydown(Game& game, KeyPress press) {
 }  // namespace
 
 void handlekey(Game& game, KeyPress press) {
+  if (game.focus != Focus::window && press.keycode == key::r) readpageagain(game);
   switch (game.focus) {
     case Focus::summarylabel: summarylabel_keydown(game, press); break;
     case Focus::storylabel: storylabel_keydown(game, press); break;
@@ -196,7 +199,7 @@ void handlekey(Game& game, KeyPress press) {
 void keypress(Game& game, KeyPress press) {
   if (game.ended) return;
   if (game.sendingkeys && isone(readingkeys, press.keycode)) return;
-  if (game.speechmode == 3 && game.jawsapi) game.jawsapi->interrupt();
+  speechengine(game).keypressed(game);
   arrive(game, press);
 }
 

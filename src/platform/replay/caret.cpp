@@ -1,6 +1,7 @@
 #include "platform/replay/caret.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "shell/speech/keycodes.h"
 #include "values/utf8.h"
@@ -22,8 +23,10 @@ std::optional<std::string_view> Caret::move(int keycode) {
     case key::down: return moveline(true);
     case key::left: return movecharacter(false);
     case key::right: return movecharacter(true);
-    case key::home: column_ = 0; return std::nullopt;
-    case key::end: column_ = codepoints(line()); return {};
+    case key::home: return moveto(0);
+    case key::end: column_ = codepoints(line()); return line();
+    case key::pageup: return movepage(0);
+    case key::pagedown: return movepage(lines_.size() - 1);
     default: return std::nullopt;
   }
 }
@@ -35,20 +38,29 @@ std::string_view Caret::moveline(bool down) {
   return line();
 }
 
+std::string_view Caret::movepage(std::size_t line) {
+  line_ = line;
+  column_ = std::min(column_, codepoints(lines_[line_]));
+  return lines_[line_];
+}
+
+std::string_view Caret::moveto(std::size_t column) {
+  const bool moved = std::exchange(column_, column) != column;
+  return moved ? codepointrange(line(), column_, 1) : line();
+}
+
 std::string_view Caret::movecharacter(bool forward) {
-  if (forward && column_ == codepoints(line()) && line_ + 1 < lines_.size()) {
+  if (forward ? column_ < codepoints(line()) : column_ > 0) {
+    return moveto(forward ? column_ + 1 : column_ - 1);
+  }
+  if (forward && line_ + 1 < lines_.size()) {
     ++line_;
     column_ = 0;
-    return line();
-  }
-  if (!forward && column_ == 0 && line_ > 0) {
+  } else if (!forward && line_ > 0) {
     --line_;
     column_ = codepoints(line());
-    return line();
   }
-  if (forward) column_ = std::min(column_ + 1, codepoints(line()));
-  if (!forward && column_ > 0) --column_;
-  return codepointrange(line(), column_, 1);
+  return line();
 }
 
 }  // namespace duskmarch

@@ -1,6 +1,8 @@
 #include "shell/speech/pages.h"
 
 #include "shell/speech/selfreading.h"
+#include "shell/speech/speech.h"
+#include "shell/speech/speechengines.h"
 
 namespace duskmarch {
 
@@ -13,6 +15,7 @@ void givefocus(Game& game, Page& page, Focus focus) {
 
 void hide(Game& game, Page& page, Focus focus) {
   page.hide();
+  stopreading(game);
   if (game.focus == focus) game.focus = Focus::window;
 }
 
@@ -24,6 +27,13 @@ void showsummary(Game& game) {
 
 void focussummary(Game& game) {
   givefocus(game, game.desktop.summarylabel, Focus::summarylabel);
+  game.pageread = game.turnsummary;  // which was spoken just now
+}
+
+void readsummary(Game& game) {
+  focussummary(game);
+  const std::vector<std::string>& oldestfirst = game.summarylabel.lines;
+  readpage(game, oldestfirst.empty() ? std::string_view() : oldestfirst.back());
 }
 
 void hidesummary(Game& game) {
@@ -31,20 +41,27 @@ void hidesummary(Game& game) {
 }
 
 void showstory(Game& game) {
+  game.storyshown = true;
   game.desktop.storylabel.show(game.storylabel);
 }
 
 void focusstory(Game& game) {
   givefocus(game, game.desktop.storylabel, Focus::storylabel);
-  readaloud(game, game.storylabel);
+  readpage(game, game.storylabel);
 }
 
 void hidestory(Game& game) {
+  game.storyshown = false;
   hide(game, game.desktop.storylabel, Focus::storylabel);
 }
 
-std::string inputbox(Game& game, std::string_view title, std::string_view prompt, bool spoken) {
-  readaloud(game, spoken ? std::string(title) : std::string(title) + ".  " + std::string(prompt));
+std::string inputbox(Game& game, std::string_view title, std::string_view prompt) {
+  if (speechengine(game).speaksprompts) {
+    sayit(game, prompt);
+  } else {
+    readaloud(game, prompt);
+  }
+  readaloud(game, title);
   std::string typed = game.desktop.dialogs.input(title, prompt);
   game.trace.answer(typed);
   return typed;

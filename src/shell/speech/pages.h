@@ -11,6 +11,8 @@ namespace duskmarch {
 
 void showsummary(Game& game);
 void focussummary(Game& game);
+// Focuses the summary, whose first line is also read to a player without a screen reader.
+void readsummary(Game& game);
 void hidesummary(Game& game);
 
 void showstory(Game& game);
@@ -18,9 +20,9 @@ void showstory(Game& game);
 void focusstory(Game& game);
 void hidestory(Game& game);
 
-// What the player typed; empty when the box was cancelled. `spoken` says that the prompt has just
-// been spoken.
-std::string inputbox(Game& game, std::string_view title, std::string_view prompt, bool spoken);
+// What the player typed; empty when the box was cancelled. Mode 0 speaks the
+// prompt first.
+std::string inputbox(Game& game, std::string_view title, std::string_view prompt);
 void messagebox(Game& game, std::string_view title, std::string_view text);
 
 }  // namespace duskmarch

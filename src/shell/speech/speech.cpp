@@ -3,8 +3,11 @@
 #include <algorithm>
 #include <cmath>
 #include <string>
+#include <utility>
 
-#include "debuglog.h"
+#include "shell/speech/guarded.h"
+#include "shell/speech/keycodes.h"
+#include "shell/speech/speechengines.h"
 #include "values/utf8.h"
 
 namespace duskmarch {
@@ -13,16 +16,6 @@ namespace {
 
 constexpr Colour black{0, 0, 0};
 constexpr Colour white{255, 255, 255};
-
-// Runs one step of sayit(); what goes wrong in it costs that step alone.
-template <typename Step>
-void guarded(const Game& game, Step step) {
-  try {
-    step();
-  } catch (const std::exception& error) {
-    logerror(game, "sayit", error.what());
-  }
-}
 
 // Paints the text in large letters, wrapped by its number of characters, over what the previous
 // text left.
@@ -45,63 +38,37 @@ void paint(Game& game, std::string_view text) {
   }
 }
 
-void speakbyvoice(Game& game, std::string_view text) {
-  guarded(game, [&] {
-    if (game.sapiready == 1) {
-      game.sapivoice->speak(text);
-    } else {
-      settitle(game, text);
-    }
-  });
-  game.desktop.window.processevents();
+// Parts sentences as two spaces do, however the first text ends.
+void append(std::string& text, std::string_view sentence) {
+  if (!text.empty()) text.resize(text.find_last_not_of(' ') + 1);
+  if (!text.empty()) text += "  ";
+  text += sentence;
 }
 
-// A title that did not change would not be heard again.
-void speakbytitle(Game& game, std::string_view text) {
-  guarded(game, [&] {
-    if (game.caption == text) {
-      settitle(game, std::string(text) + " ");
-      game.desktop.window.processevents();
-    }
-    settitle(game, text);
-  });
-}
-
-// Asks Window-Eyes to read the title. The keys come back to our own window, which knows by
-// `sendingkeys` that nobody pressed them.
-void sendreadingkeys(Game& game) {
-  game.sendingkeys = true;
-  guarded(game, [&] {
-    for (const int code : readingkeys) game.desktop.window.sendkey(code, true);
-    game.desktop.window.processevents();
-    for (const int code : readingkeys) game.desktop.window.sendkey(code, false);
-    game.desktop.window.processevents();
-  });
-  game.sendingkeys = false;
-}
-
-void speakbyjaws(Game& game, std::string_view text) {
-  guarded(game, [&] {
-    if (!game.jawsapi) throw PlatformError("there is no JAWS interface");
-    game.jawsapi->saystring(text);
-  });
-}
-
-void speak(Game& game, std::string_view text) {
-  switch (game.speechmode) {
-    case 0: return speakbyvoice(game, text);
-    case 1: return speakbytitle(game, text);
-    case 2: speakbytitle(game, text); return sendreadingkeys(game);
-    default: return speakbyjaws(game, text);
-  }
+// The text with what was added to it, which a story page and a look at the history put off.
+std::string withadded(Game& game, std::string_view text) {
+  std::string whole(text);
+  if (text.empty() || game.storyshown || game.reviewpos != 0) return whole;
+  if (!game.addedsentences.empty()) append(whole, std::exchange(game.addedsentences, {}));
+  return whole;
 }
 
 }  // namespace
 
 void sayit(Game& game, std::string_view text) {
-  if (!text.empty() && game.reviewpos == 0) game.saidlines.remember(text);
-  guarded(game, [&] { paint(game, text); });
-  speak(game, text);
+  const std::string whole = withadded(game, text);
+  if (!whole.empty() && game.reviewpos == 0) game.saidlines.remember(whole);
+  guarded(game, [&] { paint(game, whole); });
+  speechengine(game).speak(game, whole);
+}
+
+void addsentence(Game& game, std::string_view sentence) {
+  append(game.addedsentences, sentence);
+}
+
+void sayadded(Game& game) {
+  if (game.addedsentences.empty() || game.storyshown) return;
+  sayit(game, std::exchange(game.addedsentences, {}));
 }
 
 void setupsapi(Game& game) {
@@ -116,7 +83,7 @@ void setupsapi(Game& game) {
 void loadjaws(Game& game) {
   try {
     game.jawsapi = game.desktop.system.createjaws();
-    game.jawsready = 1;
+    game.jawsready = game.jawsapi->there() ? 1 : 0;
   } catch (const PlatformError&) {
     game.jawsready = 0;
   }

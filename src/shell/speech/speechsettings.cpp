@@ -6,6 +6,7 @@
 #include "audio/sounds.h"
 #include "shell/speech/progress.h"
 #include "shell/speech/speech.h"
+#include "shell/speech/speechengines.h"
 
 namespace duskmarch {
 
@@ -15,49 +16,38 @@ std::string restingtitle(const Game& game) {
   return "Quorvane's Duskmarch (v" + game.version + ")";
 }
 
-// Keeps the settings from run to run; returns what the player is told of it, once, when that fails.
-std::string_view keepsettings(Game& game) {
-  if (saveprogress(game) || game.writefailuretold) return {};
+// Keeps the settings from run to run; that this fails is told once, with what is said next.
+void keepsettings(Game& game) {
+  if (saveprogress(game) || game.writefailuretold) return;
   game.writefailuretold = true;
-  return "Your speech settings cannot be saved.  The game goes on without saving.";
+  addsentence(game, "Your speech settings cannot be saved.  The game goes on without saving.");
 }
 
-// The words that go with the choice of an engine, if any; the others tell by their sound.
-std::string_view choosejaws(Game& game) {
-  settitle(game, restingtitle(game));
-  if (game.jawsready == 1) {
-    playeffect(game, "/sounds/Menu/JAWS.wav");
-    return {};
-  }
-  game.speechmode = 0;
-  return "Jaws does not seem to be responding, Sapi on.";
+// Its sound announces an engine; words only say that another one had to be taken.
+void announce(Game& game, const SpeechEngine& chosen, bool there) {
+  if (chosen.resttitle) settitle(game, restingtitle(game));
+  if (there) playeffect(game, std::string(chosen.sound));
 }
 
 }  // namespace
 
 void switchengine(Game& game) {
-  if (game.speechmode == 0 && game.sapiready == 1) game.sapivoice->hush();
-  game.speechmode = (game.speechmode + 1) % 4;
-  std::string_view words;
-  switch (game.speechmode) {
-    case 0:
-      settitle(game, restingtitle(game));
-      playeffect(game, "/sounds/Menu/SAPI.wav");
-      break;
-    case 1: playeffect(game, "/sounds/Menu/NVDA.wav"); break;
-    case 2: playeffect(game, "/sounds/Menu/WE.wav"); break;
-    default: words = choosejaws(game);
-  }
-  if (!words.empty()) sayit(game, words);
-  if (const std::string_view failure = keepsettings(game); !failure.empty()) sayit(game, failure);
+  speechengine(game).silence(game);
+  game.speechmode = (game.speechmode + 1) % speechmode::count;
+  const SpeechEngine& chosen = speechengine(game);
+  const bool there = chosen.there(game);
+  if (!there) game.speechmode = chosen.fallback;
+  announce(game, chosen, there);
+  keepsettings(game);
+  if (!there) sayit(game, chosen.whenmissing);
+  sayadded(game);
 }
 
 void changerate(Game& game, int step) {
   game.sapirate = std::clamp(game.sapirate + step, 1, 10);
   giverate(game);
-  const std::string_view failure = keepsettings(game);
-  sayit(game, "Sapi rate changed to " + std::to_string(game.sapirate) + "." +
-                  (failure.empty() ? "" : "  ") + std::string(failure));
+  keepsettings(game);
+  sayit(game, "Sapi rate changed to " + std::to_string(game.sapirate) + ".");
 }
 
 }  // namespace duskmarch
