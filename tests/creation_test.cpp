@@ -15,6 +15,19 @@ TEST(Creation, AScreenReaderReadsThePromptOfTheName) {
   EXPECT_EQ(player.game().mob(1).mobname, "TwoLines");
 }
 
+TEST(Creation, NoKeyLeavesTheNewcomerForAnotherHeroOrTurn) {
+  for (const int menu : {screen::creation, screen::upgrades, screen::hideout}) {
+    Player player;
+    player.press(key::down);
+    perform(player, 1);
+    player.game().menuname = menu;
+    const bool acts = menu == screen::hideout;
+    for (const auto& [code, shift] : {std::pair{key::n, 0}, {key::e, 0}, {key::e, 1}}) {
+      EXPECT_EQ(player.press(code, shift).empty(), !acts) << menu << " " << code;
+    }
+  }
+}
+
 TEST(Creation, ANameIsTakenInAnyLetterCase) {
   Player player;
   perform(player, 1);

@@ -122,8 +122,14 @@ void askforendofturn(Game& game, int shift) {
   }
 }
 
+// Where somebody is made or improved, the next hero or the next turn would be somebody else's.
+bool keepsselected(const Game& game) {
+  return game.menuname == screen::creation || game.menuname == screen::upgrades;
+}
+
 // The keys that act on every screen, menus included.
 void commonkey(Game& game, KeyPress press) {
+  if (keepsselected(game) && (press.keycode == key::n || press.keycode == key::e)) return;
   switch (press.keycode) {
     case key::l: return opensummary(game);
     case key::n: return selectnexthero(game);
