@@ -9,6 +9,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <array>
 #include <ranges>
 #include <utility>
 
@@ -20,6 +21,9 @@ namespace duskmarch {
 
 namespace {
 
+constexpr std::array caretkeys = {Qt::Key_Left, Qt::Key_Right, Qt::Key_Up,
+                                  Qt::Key_Down, Qt::Key_Home,  Qt::Key_End};
+
 // A text, what it is about, and the buttons.
 class Box : public QDialog {
  public:
@@ -27,6 +31,7 @@ class Box : public QDialog {
       QDialogButtonBox::StandardButtons buttons)
       : QDialog(&parent),
         game_(parent.game()),
+        told_(toqt(text)),
         text_(toqt(text).replace(u'&', QStringLiteral("&&"))),
         layout_(this) {
     setWindowTitle(title.empty() ? QStringLiteral("Duskmarch") : toqt(title));
@@ -49,27 +54,45 @@ class Box : public QDialog {
     field.setFocus();
   }
 
-  bool eventFilter(QObject*, QEvent* event) override {
+  bool eventFilter(QObject* object, QEvent* event) override {
     if (event->type() != QEvent::KeyPress) return false;
     const auto& key = static_cast<const QKeyEvent&>(*event);
-    if (key.key() == Qt::Key_Control) tell({});
-    return isheldtoolong(key);
+    if (isheldtoolong(key)) return true;
+    // What the box itself gets has been through its parts, which may have told something since.
+    if (object != this) tellkey(key);
+    return false;
   }
 
-  // What a screen reader would say of it, where there is none; an empty text silences the voice.
+  // What a screen reader would say of it, where there is none.
   void tell(const QString& text) {
     if (game_ != nullptr) echotyped(*game_, fromqt(text));
   }
 
+ protected:
+  bool focusNextPrevChild(bool next) override {
+    const QWidget* before = focusWidget();
+    const bool moved = QDialog::focusNextPrevChild(next);
+    if (focusWidget() == before) tell(told_);
+    return moved;
+  }
+
  private:
+  void tellkey(const QKeyEvent& key) {
+    const auto press = virtualkey(key);
+    if (game_ != nullptr) boxkey(*game_, press ? press->keycode : 0);
+  }
+
   // Moving on inside the box; of the box itself, title and text tell.
   void tellfocus(QWidget* before, QWidget* now) {
     if (!isAncestorOf(before) || !isAncestorOf(now)) return;
     if (const auto* button = qobject_cast<QPushButton*>(now)) tell(button->text().remove(u'&'));
-    if (const auto* field = qobject_cast<QLineEdit*>(now)) tell(field->text());
+    if (const auto* field = qobject_cast<QLineEdit*>(now)) {
+      tell(field->text().isEmpty() ? told_ : told_ + QStringLiteral("  ") + field->text());
+    }
   }
 
   Game* game_;
+  QString told_;
   QLabel text_;
   QDialogButtonBox buttons_;
   QVBoxLayout layout_;
@@ -101,11 +124,16 @@ class Field : public QLineEdit {
     const QString unchanged = text();
     const int place = cursorPosition();
     QLineEdit::keyPressEvent(event);
-    const QString came = text().mid(cursorPosition(), 1);
-    if (text() == unchanged && cursorPosition() != place && !came.isEmpty()) box_.tell(came);
+    if (text() == unchanged) tellcaret(event->key(), cursorPosition() != place);
   }
 
  private:
+  void tellcaret(int key, bool moved) {
+    if (!moved && std::ranges::find(caretkeys, key) == caretkeys.end()) return;
+    const QString came = text().mid(cursorPosition(), 1);
+    box_.tell(moved && !came.isEmpty() ? came : text());
+  }
+
   Box& box_;
   QString before_;
 };

@@ -29,12 +29,12 @@ QTextCursor lineof(QTextCursor caret) {
   return caret;
 }
 
-// The character, or the word, to the right of the caret.
+// The character, or the word, to the right of the caret; nothing at the end of a line.
 QString righthand(QTextCursor caret, bool word) {
   caret.clearSelection();
   caret.movePosition(word ? QTextCursor::EndOfWord : QTextCursor::NextCharacter,
                      QTextCursor::KeepAnchor);
-  return caret.selectedText().trimmed();
+  return caret.selectedText().remove(QChar::ParagraphSeparator);
 }
 
 // Keeps changes from screen readers. A reader that hears of a change in a page takes the page for
@@ -92,13 +92,15 @@ void PageView::keyPressEvent(QKeyEvent* event) {
 }
 
 void PageView::movecaret(QKeyEvent& event) {
+  const int before = textCursor().position();
   const int linebefore = lineof(textCursor()).anchor();
   QPlainTextEdit::keyPressEvent(&event);
   const bool byline = isone(linekeys, event.key());
   if (window_.game() == nullptr || !(byline || isone(characterkeys, event.key()))) return;
   const QTextCursor line = lineof(textCursor());
   const bool word = event.modifiers().testFlag(Qt::ControlModifier);
-  const bool wholeline = byline || line.anchor() != linebefore;
+  const bool wholeline = byline || event.key() == Qt::Key_End || line.anchor() != linebefore ||
+                         textCursor().position() == before;
   caretmoved(*window_.game(),
              fromqt(wholeline ? line.selectedText() : righthand(textCursor(), word)));
 }
