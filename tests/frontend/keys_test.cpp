@@ -1,0 +1,61 @@
+// What every window does alike with keys, carets and typed texts.
+#include <optional>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "platform/frontend/heldkeys.h"
+#include "platform/frontend/keyplaces.h"
+#include "platform/frontend/reading.h"
+#include "platform/frontend/typed.h"
+
+namespace duskmarch {
+namespace {
+
+TEST(KeyPlaces, KnowPunctuationAndLetters) {
+  EXPECT_EQ(keyatplace(0x1B), key::rightbracket);
+  EXPECT_EQ(keyatplace(0x1C), 0);  // Enter
+  EXPECT_EQ(letteratplace(0x10), 'Q');
+  EXPECT_EQ(letteratplace(0x31), 'N');
+  EXPECT_EQ(letteratplace(0x33), 0);  // beyond the M
+  EXPECT_TRUE(companionplace(0x3A));
+}
+
+TEST(HeldKeys, AReleaseAndAPressInOneMomentAreNoPress) {
+  HeldKeys keys;
+  EXPECT_FALSE(keys.repeats(36, 3, false));
+  keys.released(36, 1000);
+  EXPECT_TRUE(keys.repeats(36, 1000, false));
+  EXPECT_TRUE(keys.repeats(36, 1004, false));
+  EXPECT_FALSE(keys.repeats(36, 1006, false));
+  EXPECT_FALSE(keys.repeats(65, 1000, false));
+  EXPECT_TRUE(keys.repeats(65, 5000, true));
+}
+
+TEST(Difference, IsWhatWasTypedOrTakenAway) {
+  EXPECT_EQ(difference("ab", "abc"), "c");
+  EXPECT_EQ(difference("aab", "aaab"), "a");
+  EXPECT_EQ(difference("abc", "ac"), "b");
+  EXPECT_EQ(difference("one two", "x"), "x");
+  EXPECT_EQ(difference("é", "è"), "è");  // which share their first byte
+  EXPECT_EQ(difference("aé", "a©"), "©");
+  EXPECT_EQ(difference("é", "©"), "©");  // which share their last
+  EXPECT_EQ(difference("same", "same"), "");
+}
+
+TEST(Reading, GoesByLinesOrByCharacters) {
+  const CaretPlace start{0, "One two", 0};
+  const CaretPlace second{0, "One two", 4};
+  const CaretPlace third{1, "", 0};
+  const auto plain = [](int keycode) { return KeyPress{.keycode = keycode}; };
+  EXPECT_EQ(readmove(plain(key::right), start, second), "t");
+  EXPECT_EQ(readmove({.keycode = key::right, .shift = modifier::ctrl}, start, second), "two");
+  EXPECT_EQ(readmove(plain(key::left), second, start), "O");
+  EXPECT_EQ(readmove(plain(key::down), start, third), "");
+  EXPECT_EQ(readmove(plain(key::right), third, start), "One two");
+  EXPECT_EQ(readmove(plain(key::home), start, start), "One two");  // it cannot move
+  EXPECT_EQ(readmove(plain(key::r), start, second), std::nullopt);
+}
+
+}  // namespace
+}  // namespace duskmarch
