@@ -7,6 +7,14 @@ stop() {
   exit 1
 }
 
+# CMake reads some characters in the name of a folder as its own, and loses others.
+needplainname() {
+  # shellcheck disable=SC2016 # as they stand
+  local refused='["\\;<>|#*?[:cntrl:]]|\[|\]|\$[({<]|\$ENV\{'
+  [[ ! $PWD =~ $refused ]] || stop "I cannot build in this folder, because CMake does not understand" \
+    "${BASH_REMATCH[0]@Q} in its name or in one above. Please rename it: $PWD"
+}
+
 # Passes its input on, but turns the lines that match PATTERN, whose group is a percentage, into a
 # line on descriptor 3 for every tenth of the way.
 tenths() { # VERB PATTERN
@@ -109,10 +117,11 @@ moved() { # PRESET
 
 # Prepares build/PRESET. ccache saves time where there is one.
 configure() { # PRESET [CMAKE-OPTION...]
-  local folder=build/$1 options=("${@:2}")
+  local folder=build/$1 options=("${@:2}") launcher=()
   needtools || stop "So nothing can be built."
-  [[ $PWD != *[][]* ]] || stop "The name of a folder above holds a bracket, and CMake finds nothing there."
-  command -v ccache >/dev/null && options+=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
+  [[ $PWD != *[\&\`\'^]* ]] || launcher+=("$PWD/tools/compile_nearby")
+  command -v ccache >/dev/null && launcher+=(ccache)
+  options+=("-DCMAKE_CXX_COMPILER_LAUNCHER=$(IFS=';' && printf '%s' "${launcher[*]}")")
   moved "$1" && rm -rf "$folder/CMakeCache.txt" "$folder/CMakeFiles"
   mkdir -p build
   say "Preparing the $1 build."
