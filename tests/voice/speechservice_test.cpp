@@ -46,7 +46,7 @@ class SpeechServiceTest : public testing::Test {
   FakeService service_;
   std::mutex mutex_;
   Texts logged_;
-  std::unique_ptr<JawsApi> jaws_;
+  std::unique_ptr<LosableSpeech> jaws_;
 };
 
 TEST_F(SpeechServiceTest, SaysOneTextAfterTheOther) {
@@ -76,6 +76,29 @@ TEST_F(SpeechServiceTest, SaysTheLatestTextWhenTheServiceIsBack) {
   service_.start();
   EXPECT_TRUE(asked({"One.", "Three."}));
   EXPECT_EQ(loggedbutdelays(), Texts({"the connection to the speech service was lost"}));
+}
+
+TEST_F(SpeechServiceTest, WhatItCannotSayIsTakenBack) {
+  jaws_->saystring("One.");
+  EXPECT_TRUE(asked({"One."}));
+  EXPECT_TRUE(eventually([&] { return !jaws_->stucksince(); }));
+  EXPECT_EQ(jaws_->giveup(), Texts()) << "it gets on";
+  service_.freeze(true);
+  for (const char* text : {"Two.", "Three."}) jaws_->saystring(text);
+  jaws_->interrupt();  // a key does not hide for how long it has got nowhere
+  for (const char* text : {"Four.", "Five."}) jaws_->saystring(text);
+  EXPECT_TRUE(jaws_->stucksince().has_value());
+  EXPECT_EQ(jaws_->giveup(), (Texts{"Four.", "Five."}));
+  EXPECT_TRUE(jaws_->lost());
+  service_.freeze(false);
+  EXPECT_TRUE(eventually([&] { return !jaws_->lost(); }));
+  service_.kill();
+  jaws_->saystring("Six.");
+  EXPECT_TRUE(eventually([&] { return !logged().empty(); }));
+  EXPECT_EQ(jaws_->giveup(), Texts{"Six."});
+  service_.start();
+  EXPECT_TRUE(eventually([&] { return !jaws_->lost(); })) << "nothing is given to it meanwhile";
+  EXPECT_FALSE(jaws_->stucksince().has_value());
 }
 
 TEST_F(SpeechServiceTest, AFrozenServiceIsReportedAndSpeaksAgain) {

@@ -6,6 +6,8 @@
 #include "debuglog.h"
 #include "platform/sound/decodedmusic.h"
 #include "platform/sound/mixedsounds.h"
+#include "platform/voice/sharedvoice.h"
+#include "platform/voice/steadyspeech.h"
 
 namespace duskmarch {
 
@@ -26,11 +28,13 @@ std::uint32_t QtSystem::secondssincemidnight() const {
 }
 
 std::unique_ptr<Voice> QtSystem::createvoice() {
-  return createespeakvoice(voicestream_, log(speecherror));
+  voice_ = createespeakvoice(voicestream_, log(speecherror));
+  return std::make_unique<SharedVoice>(voice_);
 }
 
 std::unique_ptr<JawsApi> QtSystem::createjaws() {
-  return createspeechservice(log(speecherror));
+  const auto makeservice = [this] { return createspeechservice(log(speecherror)); };
+  return std::make_unique<SteadySpeech>(makeservice, voice_, log(speecherror));
 }
 
 std::unique_ptr<SoundDevice> QtSystem::opensound() {

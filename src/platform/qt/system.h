@@ -34,6 +34,7 @@ class QtSystem : public System {
   QtWindow& window_;
   std::filesystem::path folder_;
   SoundOutput output_;
+  std::shared_ptr<Voice> voice_;  // the game's, which stands in for the speech service
   std::shared_ptr<SpeechStream> voicestream_ = std::make_shared<SpeechStream>();
 };
 

@@ -7,6 +7,7 @@
 #include <memory>
 
 #include "platform/desktop.h"
+#include "platform/voice/losablespeech.h"
 #include "platform/voice/speechlog.h"
 #include "platform/voice/speechstream.h"
 
@@ -21,7 +22,7 @@ std::unique_ptr<Voice> createespeakvoice(std::shared_ptr<SpeechStream> stream, S
 // The system's speech service (Speech Dispatcher), with the player's own voice, rate and volume.
 // Returns at once: the connection is made, and the service started if need be, when the first text
 // comes. Has the process ignore SIGPIPE, unless it handles it. Throws PlatformError when the
-// service neither listens nor is installed.
-std::unique_ptr<JawsApi> createspeechservice(SpeechLog log);
+// service neither listens nor is installed. SteadySpeech has the voice stand in for it.
+std::unique_ptr<LosableSpeech> createspeechservice(SpeechLog log);
 
 }  // namespace duskmarch

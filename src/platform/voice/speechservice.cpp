@@ -23,7 +23,7 @@
 namespace duskmarch {
 namespace {
 
-using Clock = std::chrono::steady_clock;
+using Clock = LosableSpeech::Clock;
 using std::chrono::milliseconds;
 
 // How long a call may take before that is reported, and before the service counts as hung.
@@ -45,8 +45,11 @@ struct SpeechService::Desk {
   SpeechLog log;
 
   std::deque<std::string> texts;
-  bool cut = false;         // what is being said is not wanted any more
-  unsigned interrupts = 0;  // counted, so that a text in the library's hands can be known as old
+  std::optional<std::string> inhand;  // the text in the library's hands, while it is wanted
+  bool cut = false;                   // what is being said is not wanted any more
+  std::optional<Clock::time_point> stucksince;
+  bool away = false;     // the service was not there when it was last tried
+  bool givenup = false;  // and since then it has not been back
 
   // The number of the thread in charge, and of the last that has left. Threads that are not in
   // charge touch nothing here and leave as soon as the library lets them.
@@ -57,6 +60,9 @@ struct SpeechService::Desk {
   milliseconds limit = patience;
   bool reported = false;  // that the service is away, once until it is back
 
+  void forget();
+  void progress();
+  void rested();
   void report(const std::string& trouble);
   void appoint(const std::shared_ptr<Desk>& self);
   void checkhung(const std::shared_ptr<Desk>& self);
@@ -93,6 +99,28 @@ class SpeechService::Clerk {
   bool speaking_ = false;
 };
 
+// What was given so far is not wanted any more.
+void SpeechService::Desk::forget() {
+  texts.clear();
+  inhand.reset();
+  cut = true;
+}
+
+// The service has answered.
+void SpeechService::Desk::progress() {
+  away = false;
+  givenup = false;
+  if (stucksince) stucksince = Clock::now();
+  rested();
+}
+
+// Nothing is left to be said.
+void SpeechService::Desk::rested() {
+  if (away || !texts.empty()) return;
+  stucksince.reset();
+  givenup = false;
+}
+
 void SpeechService::Desk::report(const std::string& trouble) {
   if (!std::exchange(reported, true)) log(trouble);
 }
@@ -128,7 +156,7 @@ void SpeechService::Clerk::work() {
       cancel();
     } else if (!connection_.isopen()) {
       open();
-    } else {
+    } else if (!desk_->texts.empty()) {
       saynext();
     }
   }
@@ -138,7 +166,8 @@ void SpeechService::Clerk::work() {
 }
 
 bool SpeechService::Clerk::waitforwork() {
-  desk_->wake.wait(lock_, [this] { return !incharge() || desk_->cut || !desk_->texts.empty(); });
+  desk_->wake.wait(
+      lock_, [this] { return !incharge() || desk_->cut || desk_->away || !desk_->texts.empty(); });
   return incharge();
 }
 
@@ -166,9 +195,13 @@ void SpeechService::Clerk::open() {
   proven_ = false;
   if (trouble.empty()) {
     desk_->line = line_ = fcntl(connection_.socket(), F_DUPFD_CLOEXEC, 0);
+    desk_->away = false;
+    desk_->givenup = false;
+    desk_->rested();
     return;
   }
   maystart_ = false;
+  desk_->away = true;
   desk_->report("the speech service cannot be reached: " + trouble);
   rest();
 }
@@ -183,6 +216,7 @@ void SpeechService::Clerk::hangup() {
 void SpeechService::Clerk::lose() {
   hangup();
   speaking_ = false;
+  desk_->away = true;
   desk_->report("the connection to the speech service was lost");
   // A service that takes connections and drops them at once is about to start or to end.
   if (!proven_) rest();
@@ -190,22 +224,25 @@ void SpeechService::Clerk::lose() {
 
 void SpeechService::Clerk::cancel() {
   desk_->cut = false;
-  if (!std::exchange(speaking_, false)) return;
+  if (!std::exchange(speaking_, false)) return desk_->rested();
   const auto outcome = call([this] { return connection_.cancel(); });
-  if (incharge() && outcome == ServiceConnection::Outcome::lost) lose();
+  if (!incharge()) return;
+  if (outcome == ServiceConnection::Outcome::lost) return lose();
+  desk_->progress();
 }
 
 void SpeechService::Clerk::saynext() {
   std::string text = std::move(desk_->texts.front());
   desk_->texts.pop_front();
-  const unsigned interrupts = desk_->interrupts;
+  desk_->inhand = text;
   const auto outcome = call([&] { return connection_.say(text); });
   if (!incharge()) return;
+  const bool wanted = std::exchange(desk_->inhand, std::nullopt).has_value();
   if (outcome == ServiceConnection::Outcome::lost) {
-    if (interrupts == desk_->interrupts) desk_->texts.push_front(std::move(text));
-    lose();
-    return;
+    if (wanted) desk_->texts.push_front(std::move(text));
+    return lose();
   }
+  desk_->progress();
   if (outcome == ServiceConnection::Outcome::refused) {
     desk_->report("the speech service refused a text");
     return;
@@ -233,24 +270,44 @@ SpeechService::~SpeechService() {
 
 void SpeechService::saystring(std::string_view text) {
   std::string plain = plaintext(text);
-  if (plain.empty()) return;
+  if (plain.find_first_not_of(' ') == std::string::npos) return;
   const std::lock_guard guard(desk_->mutex);
   desk_->checkhung(desk_);
   if (desk_->texts.size() == longestqueue) desk_->texts.pop_front();
   desk_->texts.push_back(std::move(plain));
+  if (!desk_->stucksince) desk_->stucksince = Clock::now();
   desk_->wake.notify_all();
 }
 
 void SpeechService::interrupt() {
   const std::lock_guard guard(desk_->mutex);
   desk_->checkhung(desk_);
-  desk_->texts.clear();
-  desk_->cut = true;
-  ++desk_->interrupts;
+  desk_->forget();
   desk_->wake.notify_all();
 }
 
-std::unique_ptr<JawsApi> createspeechservice(SpeechLog log) {
+std::optional<Clock::time_point> SpeechService::stucksince() {
+  const std::lock_guard guard(desk_->mutex);
+  return desk_->stucksince;
+}
+
+std::vector<std::string> SpeechService::giveup() {
+  const std::lock_guard guard(desk_->mutex);
+  if (!desk_->stucksince) return {};
+  desk_->givenup = true;
+  std::vector<std::string> unsaid(desk_->texts.begin(), desk_->texts.end());
+  if (desk_->inhand) unsaid.insert(unsaid.begin(), *desk_->inhand);
+  desk_->forget();
+  desk_->wake.notify_all();
+  return unsaid;
+}
+
+bool SpeechService::lost() {
+  const std::lock_guard guard(desk_->mutex);
+  return desk_->givenup;
+}
+
+std::unique_ptr<LosableSpeech> createspeechservice(SpeechLog log) {
   if (!servicepresent()) throw PlatformError("there is no speech service");
   struct sigaction broken {};
   sigaction(SIGPIPE, nullptr, &broken);

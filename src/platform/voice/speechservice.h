@@ -2,16 +2,19 @@
 #pragma once
 
 #include <memory>
+#include <optional>
+#include <string>
 #include <string_view>
+#include <vector>
 
-#include "platform/desktop.h"
+#include "platform/voice/losablespeech.h"
 #include "platform/voice/speechlog.h"
 
 namespace duskmarch {
 
 // All talk with the service is on a thread of its own, which is left behind when the service lets
 // it hang. When the service comes back, what had not been said is said.
-class SpeechService final : public JawsApi {
+class SpeechService final : public LosableSpeech {
  public:
   explicit SpeechService(SpeechLog log);
   // Returns within a second whatever the service does.
@@ -19,6 +22,9 @@ class SpeechService final : public JawsApi {
 
   void saystring(std::string_view text) override;
   void interrupt() override;
+  std::optional<Clock::time_point> stucksince() override;
+  std::vector<std::string> giveup() override;
+  bool lost() override;
 
  private:
   struct Desk;
