@@ -131,6 +131,46 @@ TEST_F(QtWindowTest, PageTellsWhereTheCaretWent) {
   EXPECT_EQ(said, (Texts{"Two", "Two", "w", "T", "One", "One"}));
 }
 
+TEST_F(QtWindowTest, PageTellsOfACaretThatCannotMove) {
+  summarylabel.show("One\r\n\r\nTwo words");
+  summarylabel.focus();
+  for (const int key : {Qt::Key_Up, Qt::Key_Left, Qt::Key_Down, Qt::Key_PageDown, Qt::Key_End,
+                        Qt::Key_End, Qt::Key_Right, Qt::Key_PageDown, Qt::Key_Home}) {
+    press(pageview(), key);
+  }
+  EXPECT_EQ(said, (Texts{"One", "One", "Blank.", "Two words", "Two words", "Two words", "Two words",
+                         "Two words", "T"}));
+  said.clear();
+  press(pageview(), Qt::Key_Right);
+  press(pageview(), Qt::Key_Right);
+  press(pageview(), Qt::Key_Right);
+  EXPECT_EQ(said, (Texts{"w", "o", " "}));
+}
+
+TEST_F(QtWindowTest, BoxesTellAgainWhatTabComesBackTo) {
+  inbox([this](QWidget* field) {
+    QCoreApplication::processEvents();  // which makes the box the active window
+    for (const int key : {Qt::Key_Left, Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Tab}) {
+      press(QApplication::focusWidget(), key);
+    }
+    EXPECT_EQ(said, (Texts{"Blank.", "OK", "Cancel", "What & why?"}));
+    type(field, "ab");
+    said.clear();
+    for (const int key : {Qt::Key_Right, Qt::Key_Home, Qt::Key_End}) press(field, key);
+    EXPECT_EQ(said, (Texts{"ab", "a", "ab"}));
+    press(field, Qt::Key_Escape);
+  });
+  dialogs.input("Name", "What & why?");
+  said.clear();
+  inbox([](QWidget*) {
+    QCoreApplication::processEvents();
+    press(QApplication::focusWidget(), Qt::Key_Tab);
+    press(QApplication::focusWidget(), Qt::Key_Return);
+  });
+  dialogs.message("Victory", "Mission complete!");
+  EXPECT_EQ(said, Texts{"Mission complete!"});
+}
+
 TEST_F(QtWindowTest, PageShownAgainBeginsAtItsStart) {
   summarylabel.show("One\r\nTwo");
   press(pageview(), Qt::Key_Down);

@@ -71,9 +71,9 @@ class Box : public QDialog {
  protected:
   bool focusNextPrevChild(bool next) override {
     const QWidget* before = focusWidget();
-    const bool moved = QDialog::focusNextPrevChild(next);
+    QDialog::focusNextPrevChild(next);
     if (focusWidget() == before) tell(told_);
-    return moved;
+    return true;  // else the parts around would tell it as well
   }
 
  private:
