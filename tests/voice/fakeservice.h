@@ -50,6 +50,9 @@ class FakeService {
     clients_.clear();
     std::filesystem::remove(path());
   }
+  // Takes connections, but ends each at its first text or command.
+  void refuse(bool refusing) { refusing_ = refusing; }
+  int connections() const { return connections_; }
   void freeze(bool frozen) { frozen_ = frozen; }
   std::string path() const { return folder_ / "speechd.sock"; }
 
@@ -75,15 +78,17 @@ class FakeService {
       auto ready = polled.begin() + 1;
       std::erase_if(clients_,
                     [&](Client& client) { return ready++->revents != 0 && !read(client); });
-      if (polled[0].revents != 0) clients_.push_back({accept(listener_, nullptr, nullptr), {}, {}});
+      if (polled[0].revents == 0) continue;
+      clients_.push_back({accept(listener_, nullptr, nullptr), {}, {}});
+      ++connections_;
     }
   }
   // False once the client has gone.
   bool read(Client& client) {
     std::array<char, 4096> bytes{};
     const ssize_t count = recv(client.socket, bytes.data(), bytes.size(), 0);
-    if (count <= 0) close(client.socket);
-    if (count <= 0) return false;
+    if (count <= 0 || refusing_) close(client.socket);
+    if (count <= 0 || refusing_) return false;
     client.unread.append(bytes.data(), static_cast<std::size_t>(count));
     for (std::size_t end = 0; (end = client.unread.find("\r\n")) != std::string::npos;) {
       const std::string reply = answer(client, client.unread.substr(0, end));
@@ -117,6 +122,8 @@ class FakeService {
   std::vector<Client> clients_;
   std::atomic<bool> alive_ = false;
   std::atomic<bool> frozen_ = false;
+  std::atomic<bool> refusing_ = false;
+  std::atomic<int> connections_ = 0;
   std::mutex mutex_;
   std::vector<std::string> asked_;
 };

@@ -101,6 +101,18 @@ TEST_F(SpeechServiceTest, WhatItCannotSayIsTakenBack) {
   EXPECT_FALSE(jaws_->stucksince().has_value());
 }
 
+TEST_F(SpeechServiceTest, OneThatOnlyTakesConnectionsIsNotBack) {
+  service_.refuse(true);
+  jaws_->saystring("One.");
+  EXPECT_TRUE(eventually([&] { return !logged().empty(); }));
+  EXPECT_EQ(jaws_->giveup(), Texts{"One."});
+  const int tries = service_.connections();
+  EXPECT_TRUE(eventually([&] { return service_.connections() > tries + 1; }));
+  EXPECT_TRUE(jaws_->lost());
+  service_.refuse(false);
+  EXPECT_TRUE(eventually([&] { return !jaws_->lost(); }));
+}
+
 TEST_F(SpeechServiceTest, AFrozenServiceIsReportedAndSpeaksAgain) {
   jaws_->saystring("One.");
   EXPECT_TRUE(asked({"One."}));

@@ -41,8 +41,11 @@ std::string ServiceConnection::open(bool startservice) {
   // A connection without a thread of its own: we want no notifications.
   connection_ = spd_open2("duskmarch", "main", nullptr, SPD_MODE_SINGLE, nullptr,
                           startservice ? 1 : 0, &error);
-  if (connection_ != nullptr) return {};
-  return taketext(error);
+  if (connection_ == nullptr) return taketext(error);
+  if (answers()) return {};
+  // It was taken by something that stands in for the service, or by one that is about to end.
+  close();
+  return "it does not answer";
 }
 
 void ServiceConnection::close() {
@@ -65,9 +68,12 @@ ServiceConnection::Outcome ServiceConnection::cancel() {
 }
 
 ServiceConnection::Outcome ServiceConnection::failure() {
-  // The library tells a refusal and a lost connection by the same number; a harmless command knows.
-  const bool answers = spd_execute_command(connection_, "SET SELF PRIORITY MESSAGE") == 0;
-  return answers ? Outcome::refused : Outcome::lost;
+  // The library tells a refusal and a lost connection by the same number.
+  return answers() ? Outcome::refused : Outcome::lost;
+}
+
+bool ServiceConnection::answers() {
+  return spd_execute_command(connection_, "SET SELF PRIORITY MESSAGE") == 0;
 }
 
 bool servicepresent() {

@@ -33,6 +33,8 @@ class ServiceConnection {
  private:
   // What became of a call that failed.
   Outcome failure();
+  // Tried by a harmless command.
+  bool answers();
 
   SPDConnection* connection_ = nullptr;
 };
