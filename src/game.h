@@ -142,8 +142,7 @@ struct Game {  // NOLINT(clang-analyzer-optin.performance.Padding)
   Focus focus = Focus::window;
   std::deque<KeyPress> waitingkeys;  // pressed while a key's handler was at work
   bool keyhandlerbusy = false;
-  void (*handlekey)(Game&, KeyPress) = nullptr;  // what a key does; set at start-up
-  bool sendingkeys = false;                      // the synthetic keys of mode 2 are on their way
+  bool sendingkeys = false;  // the synthetic keys of mode 2 are on their way
   CrashTrace trace;
   bool leaving = false;           // the player has chosen to end the program
   bool ended = false;             // the program is ending; no key acts any more
@@ -158,8 +157,10 @@ struct Game {  // NOLINT(clang-analyzer-optin.performance.Padding)
   int jawsready = 0;
   std::string progressspare;  // the third line of progress.ini, carried from file to file
   SaidLines saidlines;
-  int reviewpos = 0;     // 0: not reviewing; else the history line being reviewed
-  int printedlines = 0;  // index of the last line that the previous sayit() painted
+  int reviewpos = 0;          // 0: not reviewing; else the history line being reviewed
+  std::string spokenline;     // what onlookers see of it
+  int printedlines = 0;       // index of its last line that was painted
+  bool mapuncovered = false;  // a key came since, so it covers the map no more
   std::string addedsentences;  // of the game's own, to go with the next text; see addsentence()
   bool storyshown = false;
   std::string pageread;  // what was last read of the page that has the focus

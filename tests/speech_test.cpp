@@ -1,8 +1,10 @@
 #include "shell/speech/speech.h"
 
 #include "harness.h"
+#include "shell/keyboard.h"
 #include "shell/speech/pages.h"
 #include "shell/speech/selfreading.h"
+#include "shell/startup.h"
 
 namespace duskmarch {
 namespace {
@@ -385,27 +387,30 @@ class NarrowCanvas : public Canvas {
     operations.push_back("fill " + std::to_string(area.top) + " " + std::to_string(area.bottom));
   }
   void outline(const Rect&, Colour) override {}
-  void text(int, int y, std::string_view, int, Colour, std::string_view text) override {
-    operations.push_back("text " + std::to_string(y) + " " + std::string(text));
+  void text(const Text& text) override {
+    operations.push_back("text " + std::to_string(text.y) + " " + std::string(text.words));
   }
   Lines operations;
 };
 
-TEST(Speech, PaintingWrapsByCharactersAndErasesWhatWasThere) {
+TEST(Speech, PaintingWrapsByCharactersAndCoversTheMapUntilTheNextKey) {
   Player player;
   NarrowCanvas canvas;
-  const auto painted = [&](std::string_view text) {
+  player.session().replay.window.drawon(&canvas);
+  const auto painted = [&](const auto& action) {
     canvas.operations.clear();
-    player.session().replay.window.drawon(&canvas);
-    sayit(player.game(), text);
+    action(player.game());
     return canvas.operations;
   };
-  EXPECT_EQ(painted("short"), (Lines{"fill 0 100", "text 15 short"}));
-  EXPECT_EQ(painted("0123456789abcdefÄbcdefghijklmnop0123"),
-            (Lines{"fill 0 100", "text 15 0123456789abcdef", "text 55 Äbcdefghijklmnop",
+  EXPECT_EQ(painted([](Game& game) { sayit(game, "short"); }),
+            (Lines{"fill 0 101", "text 15 short"}));
+  EXPECT_EQ(painted([](Game& game) { sayit(game, "0123456789abcdefÄbcdefghijklmnop0123"); }),
+            (Lines{"fill 0 101", "text 15 0123456789abcdef", "text 55 Äbcdefghijklmnop",
                    "fill 95 135", "text 95 0123"}));
-  EXPECT_EQ(painted(""), (Lines{"fill 0 140", "text 15 "}));
-  EXPECT_EQ(painted("next"), (Lines{"fill 0 100", "text 15 next"}));
+  const Lines uncovered = {"fill 0 101", "text 15 0123456789abcdef", "text 55 Äbcdefghijklmnop"};
+  EXPECT_EQ(painted([](Game& game) { keypress(game, {.keycode = 0}); }), uncovered);
+  EXPECT_EQ(painted([](Game& game) { repaint(game); }), uncovered);
+  EXPECT_EQ(painted([](Game& game) { sayit(game, ""); }), (Lines{"fill 0 101", "text 15 "}));
 }
 
 }  // namespace

@@ -21,6 +21,9 @@ class PlatformError : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
+// In pixels, and in units of the map, from the window's top: where the spoken line ends.
+inline constexpr int mapstop = 101;
+
 struct Colour {
   std::uint8_t red = 0;
   std::uint8_t green = 0;
@@ -28,7 +31,7 @@ struct Colour {
   bool operator==(const Colour&) const = default;
 };
 
-// In pixels of the window's inner area, origin top left; right and bottom lie outside.
+// In units of the surface that it is drawn on; right and bottom lie outside.
 struct Rect {
   int left = 0;
   int top = 0;
@@ -36,17 +39,27 @@ struct Rect {
   int bottom = 0;
 };
 
-// The window's drawing surface. What is drawn stays until it is painted over.
+// A line of words on a surface.
+struct Text {
+  int x = 0;  // the top left corner
+  int y = 0;
+  std::string_view font;  // a missing one falls back to a similar one
+  int points = 0;         // 72 to 96 units
+  Colour colour;
+  std::string_view words;
+  Rect within = {};  // words that reach out of it move up or left in it, and are cut; empty: never
+};
+
+// A surface to draw on. What is drawn stays until it is painted over.
 class Canvas {
  public:
   virtual ~Canvas() = default;
   virtual int width() const = 0;
   virtual int height() const = 0;
   virtual void fill(const Rect& area, Colour colour) = 0;
+  // Both corners are part of it.
   virtual void outline(const Rect& area, Colour colour) = 0;
-  // `x`, `y` is the top left corner of the text; a missing font falls back to a similar one.
-  virtual void text(int x, int y, std::string_view font, int points, Colour colour,
-                    std::string_view text) = 0;
+  virtual void text(const Text& text) = 0;
 };
 
 // The one window. Key presses reach the game through keypress() in shell/keyboard.h.
@@ -55,12 +68,18 @@ class Window {
   virtual ~Window() = default;
   // Sets the title and announces the change to a screen reader, also when it is the same text.
   virtual void settitle(std::string_view title) = 0;
-  // The surface to draw on, or null while nobody could see it (no inner area, a script).
-  virtual Canvas* canvas() = 0;
+  // What is to be seen of the spoken line: a clean surface in pixels of the window's inner area,
+  // origin top left. It lies over the map. Null while nobody could see it (no inner area, a
+  // script).
+  virtual Canvas* spokenline() = 0;
+  // A clean surface in units of the map, of which all from `mapstop` down to `bottom` and from 0 to
+  // `right` is seen below the spoken line, whatever the window's size. Null as above.
+  virtual Canvas* map(int right, int bottom) = 0;
   // Handles the pending events: paints and timers run before it returns, key presses are passed to
   // keypress(), which keeps them until the handler at work is done.
   virtual void processevents() = 0;
-  // Returns after `duration`; paints, timers and key presses are handled meanwhile.
+  // Hands over the keys that are waiting, by handlewaitingkeys() (shell/keyboard.h), and returns
+  // after `duration`; paints, timers and key presses are handled meanwhile.
   virtual void wait(std::chrono::milliseconds duration) = 0;
   // A key event as if typed, where the system has a screen reader that listens for one.
   virtual void sendkey(int keycode, bool down) = 0;

@@ -3,23 +3,25 @@
 #include <algorithm>
 #include <array>
 #include <cassert>
+#include <exception>
 #include <string>
 
 #include "audio/sounds.h"
 #include "campaign/menus.h"
 #include "campaign/savegame.h"
+#include "debuglog.h"
 #include "heroturn/optionlist.h"
 #include "invariants.h"
 #include "missions/missions.h"
 #include "resolution/endturn.h"
 #include "resolution/intent.h"
 #include "shell/speech/keycodes.h"
-#include "shell/speech/keyqueue.h"
 #include "shell/speech/pages.h"
 #include "shell/speech/selfreading.h"
 #include "shell/speech/speech.h"
 #include "shell/speech/speechengines.h"
 #include "shell/speech/speechsettings.h"
+#include "shell/speech/spokenline.h"
 #include "world/drawnmap.h"
 #include "world/mapspeech.h"
 #include "world/narration.h"
@@ -190,8 +192,6 @@ void summarylabel_keydown(Game& game, KeyPress press) {
   if (press.keycode == key::enter || press.keycode == key::escape) closesummary(game);
 }
 
-}  // namespace
-
 void handlekey(Game& game, KeyPress press) {
   if (game.focus != Focus::window && press.keycode == key::r) readpageagain(game);
   switch (game.focus) {
@@ -202,11 +202,37 @@ void handlekey(Game& game, KeyPress press) {
   assert(brokeninvariant(game).empty());
 }
 
+// Whatever goes wrong in a key's handler costs the rest of what that key would have done.
+void handleguarded(Game& game, KeyPress press) {
+  const int screenbefore = game.menuname;
+  uncovermap(game);
+  try {
+    handlekey(game, press);
+  } catch (const std::exception& error) {
+    logerror(game, "keypress", error.what());
+  }
+  if (game.menuname != screenbefore) drawscreen(game);
+}
+
+}  // namespace
+
+void handlewaitingkeys(Game& game) {
+  game.keyhandlerbusy = true;
+  while (!game.waitingkeys.empty() && !game.ended) {
+    const KeyPress press = game.waitingkeys.front();
+    game.waitingkeys.pop_front();
+    game.trace.key(press.keycode, press.shift);
+    handleguarded(game, press);
+  }
+  game.keyhandlerbusy = false;
+}
+
 void keypress(Game& game, KeyPress press) {
   if (game.ended) return;
   if (game.sendingkeys && isone(readingkeys, press.keycode)) return;
   speechengine(game).keypressed(game);
-  arrive(game, press);
+  game.waitingkeys.push_back(press);
+  if (!game.keyhandlerbusy) handlewaitingkeys(game);
 }
 
 }  // namespace duskmarch

@@ -9,7 +9,8 @@ namespace duskmarch {
 // page that has the focus, else to the window. A key that arrives while another one's handler is
 // at work waits until that handler is done; hold() alone lets keys through.
 void keypress(Game& game, KeyPress key);
-// What a key does when its turn has come.
-void handlekey(Game& game, KeyPress key);
+// Handles the keys that are waiting, in order of arrival. Called by the front end when it begins to
+// wait for the game.
+void handlewaitingkeys(Game& game);
 
 }  // namespace duskmarch

@@ -8,10 +8,10 @@
 #include "heroturn/dooption.h"
 #include "heroturn/optionlist.h"
 #include "resolution/endturn.h"
-#include "shell/keyboard.h"
 #include "shell/speech/pages.h"
 #include "shell/speech/progress.h"
 #include "shell/speech/speech.h"
+#include "shell/speech/spokenline.h"
 #include "values/pathtext.h"
 #include "world/chance.h"
 #include "world/drawnmap.h"
@@ -71,7 +71,6 @@ void startstate(Game& game) {
 }  // namespace
 
 void startup(Game& game) {
-  game.handlekey = handlekey;
   game.programfolder = game.desktop.system.programfolder();
   game.version = "0.1 testing 3";
   const std::uint32_t clock = game.desktop.system.secondssincemidnight();
@@ -93,6 +92,7 @@ void startup(Game& game) {
 
 void repaint(Game& game) {
   drawscreen(game);
+  repaintspokenline(game);
 }
 
 void command1_click(Game& game) {

@@ -18,8 +18,8 @@ constexpr Colour green{0, 255, 0};
 constexpr Colour yellow{255, 255, 0};
 constexpr Colour red{255, 0, 0};
 
-constexpr int mapstop = 101;  // below the spoken line
 constexpr int tilesize = 100;
+constexpr int margin = 10;  // right and below of the map
 constexpr int mobrow = 22;
 constexpr int itemrow = 14;
 
@@ -32,8 +32,20 @@ Point corneroftile(int x, int y) {
   return {50 + (x - 1) * tilesize, 150 + (y - 1) * tilesize};
 }
 
-void write(Canvas& canvas, Point place, std::string_view text, Colour colour = white) {
-  canvas.text(place.x, place.y, "MS Sans Serif", 8, colour, text);
+void write(Canvas& canvas, Point place, const Rect& within, std::string_view words,
+           Colour colour = white) {
+  canvas.text({.x = place.x,
+               .y = place.y,
+               .font = "MS Sans Serif",
+               .points = 8,
+               .colour = colour,
+               .words = words,
+               .within = within});
+}
+
+// From `place` to the right edge of its tile.
+Rect insidetile(Point place, Point corner) {
+  return {place.x, place.y, corner.x + tilesize - 1, place.y + tilesize};
 }
 
 void outline(Canvas& canvas, Point corner, int inset, Colour colour = white) {
@@ -44,13 +56,20 @@ void outline(Canvas& canvas, Point corner, int inset, Colour colour = white) {
 
 void drawtile(Canvas& canvas, const Game& game, int x, int y) {
   const Point corner = corneroftile(x, y);
-  if (x == 1) write(canvas, {corner.x - 15, corner.y + 50}, std::to_string(y));
-  if (y == 1) write(canvas, {corner.x + 50, corner.y - 15}, saycoords(x));
+  if (x == 1) {
+    const Rect margin = {0, corner.y, corner.x - 2, corner.y + tilesize};
+    write(canvas, {corner.x - 15, corner.y + 50}, margin, std::to_string(y));
+  }
+  if (y == 1) {
+    const Rect margin = {corner.x, mapstop, corner.x + tilesize, corner.y - 1};
+    write(canvas, {corner.x + 50, corner.y - 15}, margin, saycoords(x));
+  }
   outline(canvas, corner, 0);
   if (const std::string& tags = tiletags(game, x, y); !tags.empty()) {
     outline(canvas, corner, 2);
     outline(canvas, corner, 4);
-    write(canvas, {corner.x + 40, corner.y + 87}, tags);
+    const Point place = {corner.x + 40, corner.y + 87};
+    write(canvas, place, {corner.x + 5, corner.y, corner.x + 95, corner.y + 96}, tags);
   }
   if (x == game.cursorx && y == game.cursory) outline(canvas, corner, 3, magenta);
 }
@@ -88,31 +107,35 @@ std::string modifier(Hundredths amount) {
 void drawmob(Canvas& canvas, const Game& game, int slot) {
   const Mob& mob = game.mob(slot);
   const auto row = menhere(game, slot, mob.mobx, mob.moby, -1, "").truncated();
-  Point place = corneroftile(mob.mobx, mob.moby);
-  place = {place.x + 5, place.y + 5 + (static_cast<int>(row) - 1) * mobrow};
+  const Point corner = corneroftile(mob.mobx, mob.moby);
+  const Point place = {corner.x + 5, corner.y + 5 + (static_cast<int>(row) - 1) * mobrow};
+  const Point below = {place.x + 10, place.y + 10};
   const Colour colour = colouroftype(mob.mobtype);
-  write(canvas, place,
+  write(canvas, place, insidetile(place, corner),
         mob.mobname + " (" + std::to_string(mob.health) + (mob.engaged == 1 ? ") *E*" : ")") +
             mob.status,
         colour);
-  write(canvas, {place.x + 10, place.y + 10},
+  write(canvas, below, insidetile(below, corner),
         "F=" + std::to_string(mob.fight) + modifier(calcfight2(game, slot)) + " A=" + mob.action,
         colour);
-  write(canvas, place, mob.mobname, colourofside(game, slot));
+  write(canvas, place, insidetile(place, corner), mob.mobname, colourofside(game, slot));
 }
 
 void drawitem(Canvas& canvas, const Game& game, int slot) {
   const Item& item = game.item(slot);
   const int row = itemshere(game, slot, item.itemx, item.itemy);
   const Point corner = corneroftile(item.itemx, item.itemy);
-  write(canvas, {corner.x + 5, corner.y + 55 + (row - 1) * itemrow}, "[" + item.itemname + "]");
+  const Point place = {corner.x + 5, corner.y + 55 + (row - 1) * itemrow};
+  write(canvas, place, insidetile(place, corner), "[" + item.itemname + "]");
 }
 
 }  // namespace
 
 void drawscreen(Game& game) {
-  Canvas* canvas = game.desktop.window.canvas();
-  if (canvas == nullptr || game.mapwidth == 0) return;
+  if (game.mapwidth == 0) return;
+  const Point end = corneroftile(game.mapwidth + 1, game.mapheight + 1);
+  Canvas* canvas = game.desktop.window.map(end.x + margin, end.y + margin);
+  if (canvas == nullptr) return;
   canvas->fill({0, mapstop, canvas->width(), canvas->height()}, black);
   if (game.menuname != screen::map && game.menuname != screen::options) return;
   drawgrid(*canvas, game);

@@ -68,12 +68,17 @@ INSTANTIATE_TEST_SUITE_P(
         Case{"the keypad's plus without a place", Qt::Key_Plus, 0, keypad, 107},
         Case{"the keypad's minus", Qt::Key_Minus, 82, keypad, 109},
         Case{"the keypad's point is no review key", Qt::Key_Period, 91, keypad, 0},
-        Case{"a key of no meaning", Qt::Key_F5, 71, none, 0}));
+        Case{"F1", Qt::Key_F1, 67, none, 112}, Case{"F8", Qt::Key_F8, 74, none, 119},
+        Case{"F11", Qt::Key_F11, 95, none, 122}, Case{"Home", Qt::Key_Home, 110, none, 36},
+        Case{"End", Qt::Key_End, 115, none, 35},
+        Case{"Caps Lock as another Ctrl", Qt::Key_Control, 66, none, 17},
+        Case{"a key of no meaning", Qt::Key_F12, 96, none, 0}));
 
 TEST(KeyMapAlone, LeavesOutModifiersThatGoWithAnotherKey) {
   EXPECT_FALSE(virtualkey({Qt::Key_Shift, 50, Qt::ShiftModifier}));
   EXPECT_FALSE(virtualkey({Qt::Key_Alt, 64, Qt::AltModifier}));
   EXPECT_FALSE(virtualkey({Qt::Key_AltGr, 108, Qt::NoModifier}));
+  EXPECT_FALSE(virtualkey({Qt::Key_unknown, 66, Qt::NoModifier})) << "Caps Lock for the layout";
 }
 
 }  // namespace

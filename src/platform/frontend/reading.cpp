@@ -10,10 +10,11 @@ namespace duskmarch {
 
 namespace {
 
-constexpr std::array linekeys = {key::up, key::down, key::pageup, key::pagedown};
-constexpr std::array characterkeys = {key::left, key::right, key::home, key::end};
+constexpr std::array linekeys = {key::up, key::down, key::pageup, key::pagedown, key::end};
+constexpr std::array characterkeys = {key::left, key::right, key::home};
 
-bool isone(const std::array<int, 4>& keys, int keycode) {
+template <std::size_t size>
+bool isone(const std::array<int, size>& keys, int keycode) {
   return std::ranges::find(keys, keycode) != keys.end();
 }
 

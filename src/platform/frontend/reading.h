@@ -15,8 +15,8 @@ struct CaretPlace {
   std::size_t column = 0;  // bytes of the line before the caret
 };
 
-// What is read when `press` has taken the caret from `before` to `now`: the line, for a key that
-// goes by lines and wherever the caret has come to another one or could not move; else the
+// What is read when `press` has taken the caret from `before` to `now`: the line, for End and
+// the keys that go by lines, and wherever the caret came to another one or could not move; else the
 // character to its right, or with Ctrl the word. Nothing for a key that moves no caret; an empty
 // text for an empty line and at the end of one.
 std::optional<std::string> readmove(KeyPress press, const CaretPlace& before,

@@ -10,9 +10,10 @@
 #include <QVBoxLayout>
 #include <algorithm>
 #include <array>
-#include <ranges>
+#include <string>
 #include <utility>
 
+#include "platform/frontend/typed.h"
 #include "platform/qt/keymap.h"
 #include "platform/qt/text.h"
 #include "shell/speech/selfreading.h"
@@ -57,16 +58,16 @@ class Box : public QDialog {
   bool eventFilter(QObject* object, QEvent* event) override {
     if (event->type() != QEvent::KeyPress) return false;
     const auto& key = static_cast<const QKeyEvent&>(*event);
-    if (isheldtoolong(key)) return true;
     // What the box itself gets has been through its parts, which may have told something since.
     if (object != this) tellkey(key);
     return false;
   }
 
   // What a screen reader would say of it, where there is none.
-  void tell(const QString& text) {
-    if (game_ != nullptr) echotyped(*game_, fromqt(text));
+  void tell(std::string_view text) {
+    if (game_ != nullptr) echotyped(*game_, text);
   }
+  void tell(const QString& text) { tell(fromqt(text)); }
 
  protected:
   bool focusNextPrevChild(bool next) override {
@@ -98,24 +99,15 @@ class Box : public QDialog {
   QVBoxLayout layout_;
 };
 
-// What was typed to make `now` of `before`, which differ in one place; or what was taken away.
-QString difference(const QString& before, const QString& now) {
-  const auto start = std::ranges::mismatch(before, now);
-  const std::ranges::subrange beforetail(start.in1, before.end());
-  const std::ranges::subrange nowtail(start.in2, now.end());
-  const auto end =
-      std::ranges::mismatch(beforetail | std::views::reverse, nowtail | std::views::reverse);
-  const QString typed(start.in2, end.in2.base() - start.in2);
-  return typed.isEmpty() ? QString(start.in1, end.in1.base() - start.in1) : typed;
-}
-
 // A line to type in that tells what it hears, as a screen reader would.
 class Field : public QLineEdit {
  public:
   explicit Field(Box& box) : box_(box) {
     setContextMenuPolicy(Qt::NoContextMenu);  // it would take the keys, unheard
     connect(this, &QLineEdit::textEdited, this, [this](const QString& now) {
-      box_.tell(difference(std::exchange(before_, now), now));
+      const std::string before = fromqt(std::exchange(before_, now));
+      const std::string typed = fromqt(now);
+      box_.tell(difference(before, typed));
     });
   }
 

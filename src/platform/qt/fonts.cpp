@@ -6,9 +6,9 @@
 
 namespace duskmarch {
 
-QFont similarfont(std::string_view family, int points) {
+QFont similarfont(std::string_view family, int pixels) {
   QFont font({toqt(family), "Arial", "Liberation Sans", "DejaVu Sans"});
-  font.setPixelSize(qRound(points * 96 / 72.0));
+  font.setPixelSize(pixels);
   return font;
 }
 

@@ -6,7 +6,6 @@
 
 namespace duskmarch {
 
-// A point is 1/72 of 96 pixels whatever the screen, for the game lays out its drawing in pixels.
-QFont similarfont(std::string_view family, int points);
+QFont similarfont(std::string_view family, int pixels);
 
 }  // namespace duskmarch

@@ -4,37 +4,18 @@
 #include <algorithm>
 #include <array>
 #include <span>
-#include <string_view>
 
+#include "platform/frontend/keyplaces.h"
 #include "shell/speech/keycodes.h"
 
 namespace duskmarch {
 
 namespace {
 
-struct Place {
-  quint32 scancode;
-  int keycode;
-};
-
 struct Name {
   int key;
   int keycode;
 };
-
-// Punctuation goes by its place: what a key gives changes with the layout and with Shift.
-constexpr std::array places = {
-    Place{20, key::minus},        Place{21, key::equals},     Place{34, key::leftbracket},
-    Place{35, key::rightbracket}, Place{59, key::comma},      Place{60, key::period},
-    Place{82, key::keypadminus},  Place{86, key::keypadplus},
-};
-
-struct Row {
-  quint32 first;  // the scan code of its first letter
-  std::string_view letters;
-};
-
-constexpr std::array letterrows = {Row{24, "QWERTYUIOP"}, Row{38, "ASDFGHJKL"}, Row{52, "ZXCVBNM"}};
 
 constexpr std::array names = {
     Name{Qt::Key_Backspace, key::backspace},
@@ -54,7 +35,16 @@ constexpr std::array names = {
     Name{Qt::Key_Right, key::right},
     Name{Qt::Key_Down, key::down},
     Name{Qt::Key_Delete, key::del},
+    Name{Qt::Key_F1, key::f1},
+    Name{Qt::Key_F2, key::f2},
+    Name{Qt::Key_F3, key::f3},
+    Name{Qt::Key_F4, key::f4},
+    Name{Qt::Key_F5, key::f5},
+    Name{Qt::Key_F6, key::f6},
+    Name{Qt::Key_F7, key::f7},
+    Name{Qt::Key_F8, key::f8},
     Name{Qt::Key_F9, key::f9},
+    Name{Qt::Key_F11, key::f11},
 };
 
 // Punctuation by what is printed on it, where its place says nothing.
@@ -98,27 +88,24 @@ bool isforeign(int qtkey) {
   return qtkey > 0xFF && qtkey < Qt::Key_Escape;
 }
 
-int placed(quint32 scancode) {
-  const auto found = std::ranges::find(places, scancode, &Place::scancode);
-  return found == places.end() ? 0 : found->keycode;
-}
-
-int letterat(quint32 scancode) {
-  for (const Row& row : letterrows) {
-    if (scancode < row.first) continue;
-    const std::size_t index = scancode - row.first;
-    if (index < row.letters.size()) return row.letters[index];
-  }
-  return 0;
+int placeof(const PressedKey& pressed) {
+  return static_cast<int>(pressed.scancode) - x11offset;
 }
 
 int keycode(const PressedKey& pressed) {
   if (islatinletter(pressed.key)) return pressed.key;
   if (const int code = named(names, pressed.key)) return code;
-  if (const int code = placed(pressed.scancode)) return code;
-  if (isforeign(pressed.key)) return letterat(pressed.scancode);
+  // Punctuation goes by its place: what a key gives changes with the layout and with Shift.
+  if (const int code = keyatplace(placeof(pressed))) return code;
+  if (isforeign(pressed.key)) return letteratplace(placeof(pressed));
   const bool keypad = pressed.modifiers.testFlag(Qt::KeypadModifier);
   return keypad ? named(keypadcharacters, pressed.key) : named(characters, pressed.key);
+}
+
+// A key may be a companion by its place alone, such as the Caps Lock that changes the layout.
+bool iscompanion(const PressedKey& pressed) {
+  if (std::ranges::find(companions, pressed.key) != companions.end()) return true;
+  return companionplace(placeof(pressed)) && named(names, pressed.key) == 0;
 }
 
 int mask(Qt::KeyboardModifiers modifiers) {
@@ -130,17 +117,12 @@ int mask(Qt::KeyboardModifiers modifiers) {
 }  // namespace
 
 std::optional<KeyPress> virtualkey(const PressedKey& pressed) {
-  if (std::ranges::find(companions, pressed.key) != companions.end()) return std::nullopt;
+  if (iscompanion(pressed)) return std::nullopt;
   return KeyPress{keycode(pressed), mask(pressed.modifiers)};
 }
 
 std::optional<KeyPress> virtualkey(const QKeyEvent& event) {
   return virtualkey({event.key(), event.nativeScanCode(), event.modifiers()});
-}
-
-bool isheldtoolong(const QKeyEvent& event) {
-  constexpr std::array acting = {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space};
-  return event.isAutoRepeat() && std::ranges::find(acting, event.key()) != acting.end();
 }
 
 }  // namespace duskmarch

@@ -2,11 +2,10 @@
 
 #include <QAccessible>
 #include <QKeyEvent>
-#include <QTextBlock>
-#include <algorithm>
-#include <array>
 
+#include "platform/frontend/reading.h"
 #include "platform/qt/fonts.h"
+#include "platform/qt/keymap.h"
 #include "platform/qt/text.h"
 #include "shell/speech/selfreading.h"
 
@@ -14,27 +13,16 @@ namespace duskmarch {
 
 namespace {
 
-constexpr std::array linekeys = {Qt::Key_Up, Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown};
-constexpr std::array characterkeys = {Qt::Key_Left, Qt::Key_Right, Qt::Key_Home, Qt::Key_End};
-
-template <std::size_t size>
-bool isone(const std::array<Qt::Key, size>& keys, int key) {
-  return std::ranges::find(keys, key) != keys.end();
-}
-
-// The line of the caret as it is shown, that is a part of a long paragraph.
-QTextCursor lineof(QTextCursor caret) {
+// Where the caret is, by the lines that are shown, parts of long paragraphs.
+CaretPlace placeof(QTextCursor caret) {
+  const int position = caret.position();
   caret.movePosition(QTextCursor::StartOfLine);
+  const int start = caret.position();
   caret.movePosition(QTextCursor::EndOfLine, QTextCursor::KeepAnchor);
-  return caret;
-}
-
-// The character, or the word, to the right of the caret; nothing at the end of a line.
-QString righthand(QTextCursor caret, bool word) {
-  caret.clearSelection();
-  caret.movePosition(word ? QTextCursor::EndOfWord : QTextCursor::NextCharacter,
-                     QTextCursor::KeepAnchor);
-  return caret.selectedText().remove(QChar::ParagraphSeparator);
+  const QString line = caret.selectedText();
+  return {.linenumber = start,
+          .line = fromqt(line),
+          .column = fromqt(line.left(position - start)).size()};
 }
 
 // Keeps changes from screen readers. A reader that hears of a change in a page takes the page for
@@ -56,8 +44,9 @@ QPalette yellowonblack(QPalette colours) {
   return colours;
 }
 
+// 24 points, of which there are 72 to 96 pixels.
 QFont pagefont() {
-  QFont font = similarfont("Arial", 24);
+  QFont font = similarfont("Arial", 32);
   font.setBold(true);
   return font;
 }
@@ -92,17 +81,13 @@ void PageView::keyPressEvent(QKeyEvent* event) {
 }
 
 void PageView::movecaret(QKeyEvent& event) {
-  const int before = textCursor().position();
-  const int linebefore = lineof(textCursor()).anchor();
+  const CaretPlace before = placeof(textCursor());
   QPlainTextEdit::keyPressEvent(&event);
-  const bool byline = isone(linekeys, event.key());
-  if (window_.game() == nullptr || !(byline || isone(characterkeys, event.key()))) return;
-  const QTextCursor line = lineof(textCursor());
-  const bool word = event.modifiers().testFlag(Qt::ControlModifier);
-  const bool wholeline = byline || event.key() == Qt::Key_End || line.anchor() != linebefore ||
-                         textCursor().position() == before;
-  caretmoved(*window_.game(),
-             fromqt(wholeline ? line.selectedText() : righthand(textCursor(), word)));
+  const auto press = virtualkey(event);
+  if (!press || window_.game() == nullptr) return;
+  if (const auto read = readmove(*press, before, placeof(textCursor()))) {
+    caretmoved(*window_.game(), *read);
+  }
 }
 
 }  // namespace duskmarch

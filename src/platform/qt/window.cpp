@@ -3,28 +3,29 @@
 #include <QApplication>
 #include <QEventLoop>
 #include <QKeyEvent>
-#include <QPainter>
 #include <QTimer>
 #include <utility>
 
 #include "platform/qt/keymap.h"
+#include "platform/qt/painter.h"
 #include "platform/qt/text.h"
 #include "shell/keyboard.h"
 #include "shell/startup.h"
 
 namespace duskmarch {
 
-QtWindow::QtWindow() : canvas_([this](const QRect& area) { update(area); }), reader_(*this) {
+QtWindow::QtWindow() : reader_(*this) {
   setWindowTitle(QStringLiteral("Duskmarch"));
   // A window that gets the focus has its title read out, that is the last text once more; of a
   // part without a name nothing is said.
   setCentralWidget(new QWidget);
   centralWidget()->setFocusPolicy(Qt::StrongFocus);
   setFocusProxy(centralWidget());
-  setAttribute(Qt::WA_OpaquePaintEvent);  // the canvas covers all of it
+  setAttribute(Qt::WA_OpaquePaintEvent);  // the picture covers all of it
   setMinimumSize(320, 200);
   resize(1288, 660);
-  canvas_.fit(size(), devicePixelRatio());
+  fitpicture();
+  qApp->installEventFilter(this);
 }
 
 void QtWindow::end() {
@@ -44,7 +45,6 @@ void QtWindow::uncovered() {
 }
 
 bool QtWindow::takekey(QKeyEvent& event) {
-  if (isheldtoolong(event)) return true;
   // A box that has been opened is not active at once; what the player types ahead belongs to it.
   if (box_ != nullptr) {
     QWidget* inside = box_->focusWidget();
@@ -77,8 +77,14 @@ void QtWindow::settitle(std::string_view title) {
   if (text != before + u' ') reader_.announce(text);
 }
 
-Canvas* QtWindow::canvas() {
-  return size().isEmpty() ? nullptr : &canvas_;
+Canvas* QtWindow::spokenline() {
+  update();
+  return picture_.spokenline();
+}
+
+Canvas* QtWindow::map(int right, int bottom) {
+  update();
+  return picture_.map(right, bottom);
 }
 
 void QtWindow::processevents() {
@@ -86,6 +92,7 @@ void QtWindow::processevents() {
 }
 
 void QtWindow::wait(std::chrono::milliseconds duration) {
+  if (game_ != nullptr) handlewaitingkeys(*game_);
   QEventLoop loop;
   QTimer::singleShot(duration, Qt::PreciseTimer, &loop, &QEventLoop::quit);
   loop.exec();
@@ -96,14 +103,15 @@ void QtWindow::sendkey(int, bool) {
   // would take the Ctrl for the player's own, and fall silent.
 }
 
-void QtWindow::paintEvent(QPaintEvent* event) {
+void QtWindow::paintEvent(QPaintEvent*) {
   if (game_ != nullptr && std::exchange(stale_, false)) duskmarch::repaint(*game_);
-  QPainter painter(this);
-  canvas_.show(painter, event->rect());
+  fitpicture();
+  QtPainter painter(*this, devicePixelRatio());
+  picture_.paint(painter);
 }
 
 void QtWindow::resizeEvent(QResizeEvent*) {
-  canvas_.fit(size(), devicePixelRatio());
+  fitpicture();
   placepages();
   uncovered();
 }
@@ -117,6 +125,25 @@ void QtWindow::changeEvent(QEvent* event) {
 
 void QtWindow::closeEvent(QCloseEvent*) {
   end();
+}
+
+// Sees the keys before the part of a window that they are for does, and each once: the event for
+// the window as the system knows it.
+bool QtWindow::eventFilter(QObject* object, QEvent* event) {
+  const bool released = event->type() == QEvent::KeyRelease;
+  if (!object->isWindowType() || (!released && event->type() != QEvent::KeyPress)) return false;
+  const auto& key = static_cast<const QKeyEvent&>(*event);
+  if (released) {
+    if (!key.isAutoRepeat()) heldkeys_.released(key.nativeScanCode(), key.timestamp());
+    return false;
+  }
+  const auto press = virtualkey(key);
+  return press && actsonce(press->keycode) &&
+         heldkeys_.repeats(key.nativeScanCode(), key.timestamp(), key.isAutoRepeat());
+}
+
+void QtWindow::fitpicture() {
+  picture_.fit(width(), height(), devicePixelRatio());
 }
 
 void QtWindow::placepages() {

@@ -7,7 +7,8 @@
 
 #include "game.h"
 #include "platform/desktop.h"
-#include "platform/qt/canvas.h"
+#include "platform/frontend/heldkeys.h"
+#include "platform/frontend/picture.h"
 #include "platform/qt/screenreader.h"
 
 namespace duskmarch {
@@ -33,7 +34,8 @@ class QtWindow : public QMainWindow, public Window {
   void runmodal(QDialog& box);
 
   void settitle(std::string_view title) override;
-  Canvas* canvas() override;
+  Canvas* spokenline() override;
+  Canvas* map(int right, int bottom) override;
   void processevents() override;
   void wait(std::chrono::milliseconds duration) override;
   void sendkey(int keycode, bool down) override;
@@ -44,16 +46,19 @@ class QtWindow : public QMainWindow, public Window {
   void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void changeEvent(QEvent* event) override;
+  bool eventFilter(QObject* object, QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
 
  private:
+  void fitpicture();
   void placepages();
 
   Game* game_ = nullptr;
-  QtCanvas canvas_;
+  Picture picture_;
   ScreenReader reader_;
   std::vector<QWidget*> pages_;
   QDialog* box_ = nullptr;
+  HeldKeys heldkeys_;
   bool stale_ = true;  // the game must draw again before the surface is shown
 };
 

@@ -4,6 +4,7 @@
 #include <cstdio>
 
 #include "platform/replay/replayengines.h"
+#include "shell/keyboard.h"
 #include "shell/speech/selfreading.h"
 #include "values/hundredths.h"
 #include "values/utf8.h"
@@ -52,6 +53,7 @@ void ReplayWindow::settitle(std::string_view title) {
 }
 
 void ReplayWindow::wait(std::chrono::milliseconds duration) {
+  if (game != nullptr) handlewaitingkeys(*game);
   transcript_.event("wait", Hundredths::of(duration.count() / 10).text());
 }
 
@@ -72,9 +74,9 @@ void ReplayCanvas::outline(const Rect& area, Colour colour) {
   shape("outline", area, colour);
 }
 
-void ReplayCanvas::text(int x, int y, std::string_view font, int points, Colour colour,
-                        std::string_view text) {
-  transcript_.event("text", x, y, font, points, hexadecimal(colour), text);
+void ReplayCanvas::text(const Text& text) {
+  transcript_.event("text", text.x, text.y, text.font, text.points, hexadecimal(text.colour),
+                    text.words);
 }
 
 void ReplayPage::show(std::string_view text) {

@@ -45,12 +45,15 @@ class ReplayWindow : public Window {
  public:
   explicit ReplayWindow(Transcript& transcript) : transcript_(transcript) {}
   void settitle(std::string_view title) override;
-  Canvas* canvas() override { return canvas_; }
+  Canvas* spokenline() override { return canvas_; }
+  Canvas* map(int, int) override { return canvas_; }
   void processevents() override {}
   void wait(std::chrono::milliseconds duration) override;
   void sendkey(int keycode, bool down) override;
   // Drawing goes there; null: nowhere.
   void drawon(Canvas* canvas) { canvas_ = canvas; }
+
+  Game* game = nullptr;  // whose keys wait
 
  private:
   Transcript& transcript_;
@@ -64,8 +67,7 @@ class ReplayCanvas final : public Canvas {
   int height() const override { return 660; }
   void fill(const Rect& area, Colour colour) override;
   void outline(const Rect& area, Colour colour) override;
-  void text(int x, int y, std::string_view font, int points, Colour colour,
-            std::string_view text) override;
+  void text(const Text& text) override;
 
  private:
   void shape(std::string_view name, const Rect& area, Colour colour);

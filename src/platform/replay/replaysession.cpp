@@ -36,6 +36,7 @@ void expectnothing(std::string_view rest) {
 ReplaySession::ReplaySession(const ReplayOptions& options)
     : replay(options), game(replay.desktop()) {
   replay.dialogs.game = &game;
+  replay.window.game = &game;
   startup(game);
 }
 

@@ -1,42 +1,16 @@
 #include "shell/speech/speech.h"
 
 #include <algorithm>
-#include <cmath>
 #include <string>
 #include <utility>
 
 #include "shell/speech/guarded.h"
-#include "shell/speech/keycodes.h"
 #include "shell/speech/speechengines.h"
-#include "values/utf8.h"
+#include "shell/speech/spokenline.h"
 
 namespace duskmarch {
 
 namespace {
-
-constexpr Colour black{0, 0, 0};
-constexpr Colour white{255, 255, 255};
-
-// Paints the text in large letters, wrapped by its number of characters, over what the previous
-// text left.
-void paint(Game& game, std::string_view text) {
-  Canvas* canvas = game.desktop.window.canvas();
-  if (canvas == nullptr) return;
-  const int width = canvas->width();
-  const int blackedout = game.printedlines <= 1 ? 100 : 100 + 40 * (game.printedlines - 1);
-  canvas->fill({0, 0, width, blackedout}, black);
-  const double linelength = width / 28.0 * 1.6;
-  const auto length = static_cast<double>(codepoints(text));
-  const auto shown = static_cast<std::size_t>(std::nearbyint(linelength));
-  for (int i = 0; i <= length / linelength; ++i) {
-    const int top = 40 * i + 15;
-    if (top > canvas->height()) break;
-    if (i > 1) canvas->fill({0, top, width, top + 40}, black);
-    const auto first = static_cast<std::size_t>(std::nearbyint(i * linelength));
-    canvas->text(5, top, "Arial", 28, white, codepointrange(text, first, shown));
-    game.printedlines = i;
-  }
-}
 
 // Parts sentences as two spaces do, however the first text ends.
 void append(std::string& text, std::string_view sentence) {
@@ -58,7 +32,7 @@ std::string withadded(Game& game, std::string_view text) {
 void sayit(Game& game, std::string_view text) {
   const std::string whole = withadded(game, text);
   if (!whole.empty() && game.reviewpos == 0) game.saidlines.remember(whole);
-  guarded(game, [&] { paint(game, whole); });
+  guarded(game, [&] { paintspokenline(game, whole); });
   speechengine(game).speak(game, whole);
 }
 
