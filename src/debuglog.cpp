@@ -1,13 +1,28 @@
 #include "debuglog.h"
 
-#include <fstream>
 #include <string>
+
+#include "platform/files.h"
 
 namespace duskmarch {
 
+namespace {
+
+bool hasroom(const std::filesystem::path& log, std::size_t more) {
+  return FileWriter(log, FileWriter::Start::atend).size() + more <= largesttextfile;
+}
+
+}  // namespace
+
 void logline(const std::filesystem::path& programfolder, std::string_view line) {
-  std::ofstream log(programfolder / logfile, std::ios::app | std::ios::binary);
-  log << line << "\r\n";
+  try {
+    const std::filesystem::path log = programfolder / logfile;
+    const std::string text = std::string(line) + "\r\n";
+    if (!hasroom(log, text.size())) renamefile(log, programfolder / olderlogfile);
+    FileWriter(log, FileWriter::Start::atend).write(text);
+  } catch (const FileError&) {
+    return;
+  }
 }
 
 void logerror(const Game& game, std::string_view procedure, std::string_view description) {

@@ -9,8 +9,10 @@
 namespace duskmarch {
 
 inline constexpr std::string_view logfile = "debuglog.txt";
+inline constexpr std::string_view olderlogfile = "debuglog.old";
 
-// Appends one line; a log that cannot be written is not missed.
+// Appends one line; a log that cannot be written is not missed. Where the line would make the log
+// larger than largesttextfile, the log becomes the older one and begins anew.
 void logline(const std::filesystem::path& programfolder, std::string_view line);
 // Appends "error in " + procedure + ": " + description.
 void logerror(const Game& game, std::string_view procedure, std::string_view description);

@@ -1,6 +1,7 @@
 #include "campaign/savegame.h"
 
 #include "campaignkeys.h"
+#include "refusedcalls.h"
 
 namespace duskmarch {
 namespace {
@@ -79,11 +80,19 @@ TEST_F(SavedGame, LoadingLeadsToTheHideout) {
   EXPECT_FALSE(player.game().missionunderway);
 }
 
-TEST_F(SavedGame, AnEarlierOneIsKept) {
-  player.folder().write("game.sav", "older");
+TEST_F(SavedGame, AnEarlierOneIsKeptByWhetherItIsWhole) {
   player.folder().write("game.sav.bak", "oldest");
+  const std::string whole = filed(campaign);
+  const std::string lastbytegone = whole.substr(0, whole.size() - 1);  // it loads all the same
+  for (const std::string& damaged : {std::string("by hand"), lastbytegone}) {
+    player.folder().write("game.sav", damaged);
+    save();
+    EXPECT_EQ(content("game.sav.damaged"), damaged);
+    EXPECT_EQ(content("game.sav.bak"), "oldest");
+  }
+  player.folder().write("game.sav", whole);
   save();
-  EXPECT_EQ(content("game.sav.bak"), "older");
+  EXPECT_EQ(content("game.sav.bak"), whole);
   const std::string saved = content();
   EXPECT_EQ(saved, filed(unrecruited));
   fs::remove(file("game.sav.bak"));
@@ -102,16 +111,28 @@ TEST_F(SavedGame, WhatIsNoFileIsAnError) {
   EXPECT_EQ(load(), loaderror);
   save();
   EXPECT_TRUE(fs::is_regular_file(file("game.sav")));
+  EXPECT_TRUE(fs::is_fifo(file("game.sav.damaged")));
 }
 
 TEST_F(SavedGame, AFullDiskIsNoticed) {
   load(filed(campaign));
-  {
-    const FullDisk full(20);
-    EXPECT_EQ(save(), saveerror);
+  for (int failure = 0; failure < 3; ++failure) {
+    {
+      const FullDisk full(20);
+      EXPECT_EQ(save(), saveerror);
+    }
+    EXPECT_EQ(content(), filed(campaign).substr(0, 20));
+    EXPECT_EQ(content("game.sav.bak"), filed(campaign));
   }
-  EXPECT_EQ(content(), filed(campaign).substr(0, 20));
-  EXPECT_EQ(content("game.sav.bak"), filed(campaign));
+}
+
+TEST_F(SavedGame, IsOnTheDiskBeforeItsSound) {
+  for (bool* refusal : {&refused::synchronizing, &refused::closing}) {
+    *refusal = true;
+    EXPECT_EQ(save(), saveerror);
+    *refusal = false;
+    EXPECT_TRUE(save().starts_with("play"));
+  }
 }
 
 TEST_F(SavedGame, EveryLineMustBeThere) {

@@ -1,8 +1,8 @@
 #include "campaign/savegame.h"
 
+#include <array>
 #include <exception>
 #include <filesystem>
-#include <fstream>
 #include <optional>
 #include <stdexcept>
 #include <string>
@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "audio/sounds.h"
+#include "platform/files.h"
 #include "shell/speech/speech.h"
 #include "values/filelookup.h"
 #include "values/textfile.h"
@@ -29,12 +30,10 @@ constexpr Range place = {0, gridsize - 1};
 
 class LineWriter {
  public:
-  explicit LineWriter(std::ostream& file) : file_(file) {}
-  void text(const std::string& text) { file_ << text << "\r\n"; }
+  void text(const std::string& text) { lines.append(text).append("\r\n"); }
   void number(Number number, Range /*allowed*/ = anynumber) { text(numberline(number)); }
 
- private:
-  std::ostream& file_;
+  std::string lines;
 };
 
 class LineReader {
@@ -104,19 +103,48 @@ void moblines(File& file, Mob& mob) {
   file.number(mob.upgradepoints);
 }
 
-template <typename File>
-void campaignlines(File& file, Game& game) {
-  file.number(game.missionnumber);
-  file.text(game.storyword);
-  for (int slot = 1; slot <= heroslots; ++slot) moblines(file, game.mob(slot));
+template <typename File, typename Campaign>
+void campaignlines(File& file, Campaign& campaign) {
+  file.number(campaign.missionnumber);
+  file.text(campaign.storyword);
+  for (int slot = 1; slot <= heroslots; ++slot) moblines(file, campaign.mob(slot));
 }
 
-// Keeps the file that is about to be written anew.
+// What a saved game holds, for a look at one that is not loaded.
+struct Campaign {
+  Number missionnumber;
+  std::string storyword;
+  std::array<Mob, heroslots + 1> mobs;
+  Mob& mob(int slot) { return mobs.at(static_cast<std::size_t>(slot)); }
+};
+
+bool iswhole(const fs::path& file) {
+  try {
+    const std::string text = readtextfile(file);
+    LineReader lines(splitlines(text));
+    Campaign campaign;
+    campaignlines(lines, campaign);
+    return text.ends_with('\n');
+  } catch (const std::exception&) {
+    return false;
+  }
+}
+
+// Keeps the file that is about to be written anew: of what was cut short not in the place of the
+// last whole one, but where a hand may still repair it.
 void setaside(const fs::path& file) {
-  if (!fs::exists(fs::symlink_status(file)) || fs::is_directory(file)) return;
+  const fs::file_status status = fs::symlink_status(file);
+  if (!fs::exists(status) || fs::is_directory(status)) return;
   fs::path kept = file;
-  kept += ".bak";
-  fs::rename(file, kept);
+  kept += iswhole(file) ? ".bak" : ".damaged";
+  renamefile(file, kept);
+}
+
+void write(const fs::path& path, std::string_view text) {
+  FileWriter file(path, FileWriter::Start::anew);
+  file.write(text);
+  file.synchronize();
+  file.close();
 }
 
 }  // namespace
@@ -126,13 +154,10 @@ void savegame(Game& game, std::string_view name) {
     const fs::path path =
         findfile(game.programfolder, name).value_or(game.programfolder / tidyname(name));
     setaside(path);
-    std::ofstream file(path, std::ios::binary);
-    file.exceptions(std::ios::failbit | std::ios::badbit);
-    LineWriter lines(file);
-    campaignlines(lines, game);
-    file.flush();  // a full disk shows here
+    LineWriter writer;
+    campaignlines(writer, game);
+    write(path, writer.lines);
     playeffect(game, R"(\sounds\game\saved.wav)");
-    file.close();
   } catch (const std::exception&) {
     sayit(game, "Error saving game.");
   }
@@ -145,7 +170,8 @@ void loadgame(Game& game, std::string_view name) {
       sayit(game, "File not found.");
       return;
     }
-    LineReader lines(readlines(*path));
+    const std::string text = readtextfile(*path);
+    LineReader lines(splitlines(text));
     campaignlines(lines, game);
     game.missionunderway = false;
     sayit(game, "Game loaded.");

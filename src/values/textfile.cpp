@@ -1,28 +1,11 @@
 #include "values/textfile.h"
 
+#include <algorithm>
 #include <charconv>
-#include <fstream>
-#include <iterator>
-#include <stdexcept>
 
 namespace duskmarch {
 
-namespace {
-
-std::string readwhole(const std::filesystem::path& file) {
-  // Opening a pipe or a device would wait for its other end, so it is not even tried.
-  if (!std::filesystem::is_regular_file(file)) throw std::runtime_error("it is no file");
-  std::ifstream stream(file, std::ios::binary);
-  if (!stream) throw std::runtime_error("it cannot be opened");
-  std::string text{std::istreambuf_iterator<char>(stream), {}};
-  if (stream.bad()) throw std::runtime_error("it cannot be read");
-  return text;
-}
-
-}  // namespace
-
-std::vector<std::string> readlines(const std::filesystem::path& file) {
-  const std::string text = readwhole(file);
+std::vector<std::string> splitlines(std::string_view text) {
   std::vector<std::string> lines;
   for (std::size_t start = 0; start < text.size();) {
     const std::size_t end = std::min(text.find('\n', start), text.size());

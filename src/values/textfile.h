@@ -2,7 +2,6 @@
 // minus sign) before it and one space after it, a value never set as an empty line.
 #pragma once
 
-#include <filesystem>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -12,9 +11,8 @@
 
 namespace duskmarch {
 
-// All lines of a file, read with or without the CR; a last line without its end counts. Throws
-// std::runtime_error when the file cannot be read or is no regular file.
-std::vector<std::string> readlines(const std::filesystem::path& file);
+// The lines of what a file held, read with or without the CR; a last line without its end counts.
+std::vector<std::string> splitlines(std::string_view text);
 
 // " 5 ", "-3 ", or an empty text for a number never set.
 std::string numberline(Number number);

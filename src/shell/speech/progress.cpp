@@ -2,11 +2,11 @@
 
 #include <charconv>
 #include <cmath>
-#include <fstream>
 #include <optional>
 #include <stdexcept>
 
 #include "debuglog.h"
+#include "platform/files.h"
 #include "shell/speech/speech.h"
 #include "values/filelookup.h"
 #include "values/textfile.h"
@@ -28,13 +28,20 @@ std::optional<int> setting(std::string_view line, int least, int most) {
   return static_cast<int>(value);
 }
 
-bool write(const Game& game, const std::filesystem::path& path) {
-  std::ofstream file(path, std::ios::binary | std::ios::trunc);
-  file << numberline(game.speechmode) << "\r\n"
-       << numberline(game.sapirate) << "\r\n"
-       << game.progressspare << "\r\n";
-  file.close();
-  return !file.fail();
+// Written beside the file first, so that one is always whole.
+void replace(const std::filesystem::path& file, std::string_view text) {
+  std::filesystem::path fresh = file;
+  fresh += ".new";
+  FileWriter writer(fresh, FileWriter::Start::anew);
+  try {
+    writer.write(text);
+    writer.close();
+    renamefile(fresh, file);
+  } catch (const FileError&) {
+    std::error_code ignored;
+    std::filesystem::remove(fresh, ignored);
+    throw;
+  }
 }
 
 }  // namespace
@@ -42,15 +49,13 @@ bool write(const Game& game, const std::filesystem::path& path) {
 bool saveprogress(const Game& game) {
   const std::filesystem::path file =
       findfile(game.programfolder, progressfile).value_or(game.programfolder / progressfile);
-  std::filesystem::path fresh = file;
-  fresh += ".new";
-  std::error_code error;
-  if (write(game, fresh)) {
-    std::filesystem::rename(fresh, file, error);
-    if (!error) return true;
+  try {
+    replace(file, numberline(game.speechmode) + "\r\n" + numberline(game.sapirate) + "\r\n" +
+                      game.progressspare + "\r\n");
+    return true;
+  } catch (const FileError&) {
+    return false;
   }
-  std::filesystem::remove(fresh, error);
-  return false;
 }
 
 void readprogress(Game& game) {
@@ -58,7 +63,7 @@ void readprogress(Game& game) {
   if (!file) return;
   std::vector<std::string> lines;
   try {
-    lines = readlines(*file);
+    lines = splitlines(readtextfile(*file));
   } catch (const std::exception& error) {
     logerror(game, "readprogress", std::string(progressfile) + ": " + error.what());
     return;

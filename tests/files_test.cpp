@@ -1,0 +1,99 @@
+// The files that the game writes, where something else has their names.
+#include "platform/files.h"
+
+#include <cerrno>
+
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+#include "campaign/savegame.h"
+#include "debuglog.h"
+#include "harness.h"
+#include "refusedcalls.h"
+#include "shell/speech/progress.h"
+
+// In place of the C library's.
+extern "C" int fsync(int file) {
+  if (!duskmarch::refused::synchronizing) return static_cast<int>(syscall(SYS_fsync, file));
+  errno = EIO;
+  return -1;
+}
+
+extern "C" int close(int file) {
+  const auto result = static_cast<int>(syscall(SYS_close, file));
+  if (!duskmarch::refused::closing) return result;
+  errno = EIO;
+  return -1;
+}
+
+namespace duskmarch {
+namespace {
+
+namespace fs = std::filesystem;
+
+// Everything that writes, twice.
+void writeall(const fs::path& folder) {
+  Player player({.folder = folder});
+  for (int n = 0; n < 2; ++n) {
+    logline(folder, "a line");
+    saveprogress(player.game());
+    savegame(player.game(), "game.sav");
+    loadgame(player.game(), "game.sav");
+  }
+}
+
+TEST(Files, NothingElseIsWrittenOverOrWaitedFor) {
+  for (const char* name : {"debuglog.txt", "progress.ini", "progress.ini.new", "game.sav",
+                           "game.sav.bak", "game.sav.damaged"}) {
+    const ProgramFolder folder;
+    const fs::path file = folder.path / name;
+    folder.write("theirs", "theirs");
+    fs::create_symlink("theirs", file);
+    writeall(folder.path);
+    EXPECT_EQ(folder.read("theirs"), "theirs") << name;
+    fs::remove(file);
+    fs::create_symlink("nowhere", file);
+    writeall(folder.path);
+    EXPECT_FALSE(fs::exists(folder.path / "nowhere")) << name;
+    fs::remove(file);
+    ASSERT_EQ(mkfifo(file.c_str(), 0600), 0);
+    writeall(folder.path);
+  }
+}
+
+TEST(Files, AnEndlessOneIsRefusedAtOnce) {
+  const ProgramFolder folder;
+  for (const char* name : {"game.sav", "progress.ini"}) {
+    folder.write(name, "");
+    fs::resize_file(folder.path / name, std::uintmax_t{300} << 20);
+  }
+  rusage before{};
+  getrusage(RUSAGE_SELF, &before);
+  Player player({.folder = folder.path});
+  EXPECT_EQ(player.spoken([&] { loadgame(player.game(), "game.sav"); }),
+            std::vector<std::string>{"Error loading game."});
+  EXPECT_NE(folder.read("debuglog.txt").find("progress.ini: it is larger"), std::string::npos);
+  rusage after{};
+  getrusage(RUSAGE_SELF, &after);
+  EXPECT_LT(after.ru_maxrss - before.ru_maxrss, 100 << 10) << "KiB";
+  folder.write("most.txt", std::string(largesttextfile, 'x'));
+  EXPECT_EQ(readtextfile(folder.path / "most.txt").size(), largesttextfile);
+}
+
+TEST(Files, TheLogBeginsAnewBeforeItGrowsTooLarge) {
+  const ProgramFolder folder;
+  const std::string full(largesttextfile - 8, 'x');
+  folder.write("debuglog.txt", full);
+  folder.write("debuglog.old", "older");
+  logline(folder.path, "123456");
+  EXPECT_EQ(folder.read("debuglog.txt"), full + "123456\r\n");
+  EXPECT_EQ(folder.read("debuglog.old"), "older");
+  logline(folder.path, "7");
+  EXPECT_EQ(folder.read("debuglog.txt"), "7\r\n");
+  EXPECT_EQ(folder.read("debuglog.old"), full + "123456\r\n");
+}
+
+}  // namespace
+}  // namespace duskmarch
