@@ -44,7 +44,8 @@ bool startsound(Game& game) {
   game.maxbuffer = soundbuffercount - 1;
   try {
     game.dsound = game.desktop.system.opensound();
-  } catch (const PlatformError&) {
+  } catch (const PlatformError& error) {
+    logline(game.programfolder, "The sound device cannot be started: " + std::string(error.what()));
     messagebox(game, "",
                "Unable to start DirectSound. Check to see that your sound card is properly "
                "installed.  Try running ostrav.exe from your Klavern folder.  For some people, "

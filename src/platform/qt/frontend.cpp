@@ -15,13 +15,14 @@ FrontEnd::FrontEnd(std::filesystem::path folder)
       system_(window_, std::move(folder)),
       desktop_{system_, window_, summarylabel_, storylabel_, dialogs_} {}
 
-void FrontEnd::run(Game& game) {
+bool FrontEnd::run(Game& game) {
   const TerminationSignals termination([this] { window_.end(); });
   window_.attach(game);
   startup(game);
-  if (game.ended) return;
+  if (game.ended) return game.dsound != nullptr;
   window_.show();
   QCoreApplication::exec();
+  return true;
 }
 
 }  // namespace duskmarch

@@ -18,8 +18,8 @@ class FrontEnd {
   explicit FrontEnd(std::filesystem::path folder);
 
   Desktop& desktop() { return desktop_; }
-  // From the game's start-up to its end.
-  void run(Game& game);
+  // From the game's start-up to its end; false when it could not start.
+  bool run(Game& game);
 
  private:
   QtWindow window_;

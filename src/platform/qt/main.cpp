@@ -30,5 +30,5 @@ int main(int argc, char** argv) {
   duskmarch::FrontEnd frontend(folder);
   duskmarch::Game game(frontend.desktop());
   const duskmarch::CrashHandler crashhandler(game.trace, folder);
-  frontend.run(game);
+  return frontend.run(game) ? 0 : 1;
 }
