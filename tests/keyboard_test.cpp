@@ -227,17 +227,59 @@ TEST(SelfReading, PagesAndBoxesAreReadToAPlayerWithoutAReader) {
   EXPECT_EQ(withreader.spokenby(key::enter), Lines{});
 }
 
+std::string scriptof(const CrashTrace& trace) {
+  std::string script;
+  trace.writeto([&](const char* data, std::size_t size) { script.append(data, size); });
+  return script;
+}
+
 TEST(CrashTrace, IsAScriptWithAnswersAheadOfTheirKeys) {
   CrashTrace trace;
   trace.begin("0.1", 77);
-  for (int n = 0; n < 300; ++n) trace.key(40, 0);
+  for (int n = 0; n < 1'000'000; ++n) trace.key(40, 0);
   trace.key(13, 1);
   trace.answer("a\tb");
-  std::string script;
-  trace.writeto([&](const char* data, std::size_t size) { script.append(data, size); });
-  EXPECT_TRUE(script.starts_with("# Duskmarch 0.1: the last keys before a crash\nseed 77\nkey 40"));
-  EXPECT_TRUE(script.ends_with("key 40 0\nanswer a\\tb\nkey 13 1\n"));
-  EXPECT_EQ(std::ranges::count(script, '\n'), 2 + 200);
+  trace.answer("");
+  trace.answer(std::string(3 * CrashTrace::partsize, 'x'));
+  const std::string script = scriptof(trace);
+  EXPECT_TRUE(script.starts_with("# Duskmarch 0.1: all keys before a crash\nseed 77\nkey 40\nkey"));
+  EXPECT_NE(script.find("key 40\nanswer a\\tb\ncancel\nanswer xxx"), std::string::npos);
+  EXPECT_TRUE(script.ends_with("x\nkey 13 1\n"));
+  EXPECT_EQ(std::ranges::count(script, '\n'), 2 + 1'000'000 + 4);
+}
+
+TEST(CrashTrace, KeepsTheNewestKeysWhereMemoryEnds) {
+  CrashTrace trace;
+  trace.limitparts(0);
+  trace.begin("0.1", 77);
+  for (int n = 1; n <= 100'000; ++n) {
+    trace.key(n, 0);
+    if (n % 10 != 0 || n < 5'000) continue;
+    const std::string script = scriptof(trace);
+    ASSERT_TRUE(script.starts_with("# There was no memory for all keys"));
+    const std::string oldest = "\nkey " + std::to_string(n - 199) + "\n";
+    ASSERT_NE(script.find(oldest), std::string::npos) << n;
+    ASSERT_TRUE(script.ends_with("\nkey " + std::to_string(n) + "\n"));
+  }
+}
+
+TEST(CrashTrace, KeepsWhatWasLoadedAndNotSavedBefore) {
+  CrashTrace trace;
+  trace.saved("autosave.sav", "ours");
+  trace.loaded("autosave.sav", "ours");
+  trace.loaded("none.sav", std::nullopt);
+  trace.saved("none.sav", "made");
+  EXPECT_EQ(scriptof(trace), "");
+  trace.loaded("game.sav", "theirs");
+  trace.saved("game.sav", "ours");
+  EXPECT_EQ(scriptof(trace), "# needs what is in crash-game.sav as game.sav from the start\n");
+  trace.loaded("game.sav", "theirs");
+  EXPECT_TRUE(scriptof(trace).ends_with("another way from here\n"));
+  std::string files;
+  trace.writefilesto([&](const char* name, const char* data, std::size_t size) {
+    files += std::string(name) + "=" + std::string(data, size) + ";";
+  });
+  EXPECT_EQ(files, "crash-game.sav=theirs;");
 }
 
 }  // namespace

@@ -157,6 +157,7 @@ void savegame(Game& game, std::string_view name) {
     LineWriter writer;
     campaignlines(writer, game);
     write(path, writer.lines);
+    game.trace.saved(name, writer.lines);
     playeffect(game, R"(\sounds\game\saved.wav)");
   } catch (const std::exception&) {
     sayit(game, "Error saving game.");
@@ -167,10 +168,12 @@ void loadgame(Game& game, std::string_view name) {
   try {
     const std::optional<fs::path> path = findfile(game.programfolder, name);
     if (!path) {
+      game.trace.loaded(name, std::nullopt);
       sayit(game, "File not found.");
       return;
     }
     const std::string text = readtextfile(*path);
+    game.trace.loaded(name, text);
     LineReader lines(splitlines(text));
     campaignlines(lines, game);
     game.missionunderway = false;

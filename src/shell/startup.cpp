@@ -30,7 +30,7 @@ void reportearliercrash(const Game& game) {
   if (missing) return;
   const auto told = std::filesystem::last_write_time(game.programfolder / logfile, missing);
   if (!missing && told > crashed) return;
-  logline(game.programfolder, "An earlier run crashed.  Its last keys are in " + textof(trace));
+  logline(game.programfolder, "An earlier run crashed.  Its keys are in " + textof(trace));
 }
 
 void startspeech(Game& game) {
@@ -87,6 +87,9 @@ void startup(Game& game) {
     return game.desktop.system.end();
   }
   readprogress(game);
+  game.trace.note("speechmode " + std::to_string(game.speechmode) + ", sapirate " +
+                  std::to_string(game.sapirate) + ", sapiready " + std::to_string(game.sapiready) +
+                  ", jawsready " + std::to_string(game.jawsready));
   startstate(game);
   sayit(game, "Welcome to Duskmarch, version " + game.version + ", by Quorvane.  Main menu.");
 }

@@ -2,10 +2,12 @@
 
 #include <array>
 #include <csignal>
-#include <string>
+#include <utility>
 
 #include <fcntl.h>
 #include <unistd.h>
+
+#include "platform/posix/openfile.h"
 
 namespace duskmarch {
 
@@ -16,25 +18,42 @@ constexpr std::array fatal = {SIGSEGV, SIGABRT, SIGBUS, SIGFPE, SIGILL};
 // All that a handler of a fatal signal can reach, made ready beforehand: it may call next to
 // nothing, and the stack may be what is broken.
 const CrashTrace* keptkeys = nullptr;
-std::string tracefile;
+int folder = -1;
 std::array<char, 1 << 16> ownstack;
 
-void writetrace(int signal) {
-  const int file = open(tracefile.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
-  if (file != -1) {
-    keptkeys->writeto([file](const char* data, std::size_t size) {
-      [[maybe_unused]] const auto written = write(file, data, size);
-    });
-    close(file);
+// Never more than a try: there is nobody left to tell.
+void writewhole(int file, const char* data, std::size_t size) {
+  while (size > 0) {
+    const ssize_t written = write(file, data, size);
+    if (written <= 0) return;
+    data += written;
+    size -= static_cast<std::size_t>(written);
   }
+}
+
+template <typename Content>
+void writefile(const char* name, Content content) {
+  const int file = openforwriting(folder, name, 0);
+  if (file == -1) return;
+  if (ftruncate(file, 0) == 0) content(file);
+  close(file);
+}
+
+void writetrace(int signal) {
+  writefile(crashfile.data(), [](int file) {
+    keptkeys->writeto([file](const char* data, std::size_t size) { writewhole(file, data, size); });
+  });
+  keptkeys->writefilesto([](const char* name, const char* data, std::size_t size) {
+    writefile(name, [&](int file) { writewhole(file, data, size); });
+  });
   raise(signal);  // which has its default effect again
 }
 
 }  // namespace
 
-CrashHandler::CrashHandler(const CrashTrace& trace, const std::filesystem::path& folder) {
+CrashHandler::CrashHandler(const CrashTrace& trace, const std::filesystem::path& programfolder) {
   keptkeys = &trace;
-  tracefile = folder / crashfile;
+  folder = open(programfolder.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC);
   stack_t stack{};
   stack.ss_sp = ownstack.data();
   stack.ss_size = ownstack.size();
@@ -47,6 +66,7 @@ CrashHandler::CrashHandler(const CrashTrace& trace, const std::filesystem::path&
 
 CrashHandler::~CrashHandler() {
   for (const int signal : fatal) std::signal(signal, SIG_DFL);
+  close(std::exchange(folder, -1));
 }
 
 }  // namespace duskmarch
