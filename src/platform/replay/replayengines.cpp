@@ -23,12 +23,19 @@ std::string beginning(const std::filesystem::path& file, std::size_t size) {
 
 }  // namespace
 
-void ReplaySound::load(int buffer, std::string_view name, const std::filesystem::path& file) {
+bool ReplaySound::isgood(const std::filesystem::path& file) {
+  const std::optional<FileStamp> stamp = stampof(file);
+  if (!stamp) throw PlatformError("it cannot be opened");
+  const auto known = looks_.find(file);
+  if (known != looks_.end() && known->second.stamp == *stamp) return known->second.good;
   const std::string bytes = beginning(file, 12);
-  if (!bytes.starts_with("RIFF") ||
-      bytes.substr(std::min<std::size_t>(8, bytes.size())) != "WAVE") {
-    throw PlatformError("it is no WAV file: " + std::string(name));
-  }
+  const bool good = bytes.size() == 12 && bytes.starts_with("RIFF") && bytes.ends_with("WAVE");
+  looks_.insert_or_assign(file, Look{.stamp = *stamp, .good = good});
+  return good;
+}
+
+void ReplaySound::load(int buffer, std::string_view name, const std::filesystem::path& file) {
+  if (!isgood(file)) throw PlatformError("it is no WAV file: " + std::string(name));
   at(buffer) = {.name = tidyname(name), .volume = 0, .pan = 0};
 }
 

@@ -2,10 +2,12 @@
 #pragma once
 
 #include <array>
+#include <map>
 #include <string>
 
 #include "game.h"
 #include "platform/desktop.h"
+#include "platform/files.h"
 #include "platform/replay/transcript.h"
 
 namespace duskmarch {
@@ -47,10 +49,17 @@ class ReplaySound final : public SoundDevice {
     int volume = 0;
     int pan = 0;
   };
+  struct Look {
+    FileStamp stamp;
+    bool good = false;
+  };
+  // Reads a file again when its size or time has changed.
+  bool isgood(const std::filesystem::path& file);
   Buffer& at(int buffer) { return buffers_[static_cast<std::size_t>(buffer)]; }
 
   Transcript& transcript_;
   std::array<Buffer, soundbuffercount> buffers_;
+  std::map<std::filesystem::path, Look> looks_;
 };
 
 // Music plays unheard; a file is good when it begins as an MP3 stream or with an ID3 tag.

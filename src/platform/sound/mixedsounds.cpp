@@ -2,15 +2,13 @@
 
 #include <string>
 
-#include "platform/sound/wavfile.h"
-
 namespace duskmarch {
 
 MixedSounds::MixedSounds(std::shared_ptr<Mixer> mixer) : mixer_(std::move(mixer)) {}
 
 void MixedSounds::load(int buffer, std::string_view name, const std::filesystem::path& file) {
   try {
-    mixer_->load(buffer, std::make_shared<const Clip>(readwav(file)));
+    mixer_->load(buffer, clips_.clip(file));
   } catch (const std::exception& error) {
     throw PlatformError(std::string(name) + ": " + error.what());
   }

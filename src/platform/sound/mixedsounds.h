@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "platform/desktop.h"
+#include "platform/sound/clipcache.h"
 #include "platform/sound/mixer.h"
 
 namespace duskmarch {
@@ -18,6 +19,7 @@ class MixedSounds : public SoundDevice {
 
  private:
   std::shared_ptr<Mixer> mixer_;
+  ClipCache clips_;
 };
 
 }  // namespace duskmarch
