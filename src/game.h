@@ -124,7 +124,6 @@ struct KeyPress {
 inline constexpr int lastslot = 99;  // of the mob and item tables and of a mob's abilities
 inline constexpr int heroslots = 3;  // slots 1 to 3 are the campaign's heroes
 inline constexpr int gridsize = 16;  // `tilefx` runs from 0 to 15 both ways
-inline constexpr int soundbuffercount = 50;
 
 // There is one: its fields stand by subject, not by size.
 struct Game {  // NOLINT(clang-analyzer-optin.performance.Padding)
@@ -157,10 +156,10 @@ struct Game {  // NOLINT(clang-analyzer-optin.performance.Padding)
   int jawsready = 0;
   std::string progressspare;  // the third line of progress.ini, carried from file to file
   SaidLines saidlines;
-  int reviewpos = 0;          // 0: not reviewing; else the history line being reviewed
-  std::string spokenline;     // what onlookers see of it
-  int printedlines = 0;       // index of its last line that was painted
-  bool mapuncovered = false;  // a key came since, so it covers the map no more
+  int reviewpos = 0;           // 0: not reviewing; else the history line being reviewed
+  std::string spokenline;      // what onlookers see of it
+  int printedlines = 0;        // index of its last line that was painted
+  bool mapuncovered = false;   // a key came since, so it covers the map no more
   std::string addedsentences;  // of the game's own, to go with the next text; see addsentence()
   bool storyshown = false;
   std::string pageread;  // what was last read of the page that has the focus
@@ -198,9 +197,10 @@ struct Game {  // NOLINT(clang-analyzer-optin.performance.Padding)
 
   // The world.
   int mobcount = 0;
-  std::array<Mob, lastslot + 1> mobs;  // slot 0 is never used
+  // Slot 0 is nobody: never conscious, never written; whoever has no target looks there.
+  std::array<Mob, lastslot + 1> mobs;
   int itemcount = 0;
-  std::array<Item, lastslot + 1> items;  // slot 0 is never used
+  std::array<Item, lastslot + 1> items;  // slot 0 is no furniture
   int mapwidth = 0;
   int mapheight = 0;
   std::array<std::array<std::string, gridsize>, gridsize> tilefx;  // [x][y]; see tiletags()

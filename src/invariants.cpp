@@ -31,6 +31,8 @@ std::string brokenmob(const Mob& mob) {
 }
 
 std::string brokentable(const Game& game) {
+  if (game.mob(0).health.isset() || !game.mob(0).mobname.empty()) return "slot 0 is somebody";
+  if (game.item(0).itemhealth != 0) return "slot 0 is some furniture";
   if (!within(game.mobcount, 0, lastslot)) return "mobcount is out of range";
   if (!within(game.itemcount, 0, lastslot)) return "itemcount is out of range";
   if (!within(game.mapwidth, 0, gridsize - 1) || !within(game.mapheight, 0, gridsize - 1)) {

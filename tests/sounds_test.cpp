@@ -50,7 +50,7 @@ TEST_F(Sounds, FiftyPlaysUseBuffers2To49AndThen2And3Again) {
 
 TEST_F(Sounds, VolumeAndPanAreRoundedAndTakenWithinTheirRange) {
   struct Case {
-    void (*set)(Game&, int, double&);
+    double (*set)(Game&, int, double);
     double given;
     double handedback;
     std::string heard;  // volume and pan, which were -100 and 200
@@ -64,9 +64,7 @@ TEST_F(Sounds, VolumeAndPanAreRoundedAndTakenWithinTheirRange) {
   };
   for (const Case& c : cases) {
     makesound(game, arrows, -100, 200, false, 7);
-    double value = c.given;
-    c.set(game, 7, value);
-    EXPECT_EQ(value, c.handedback);
+    EXPECT_EQ(c.set(game, 7, c.given), c.handedback);
     EXPECT_EQ(during([&] { game.dsound->play(7, false); }),
               "play\t7\t" + c.heard + "\t0\tsounds/menu/arrows.wav");
   }
@@ -105,13 +103,9 @@ TEST_F(Sounds, ABufferThatNeverHeldASoundPlaysNothingAndTheRotationMovesOn) {
   EXPECT_EQ(played(arrows), "play\t3\t0\t0\t0\tsounds/menu/arrows.wav");
 }
 
-TEST_F(Sounds, ANameComesBackTrimmedAndAnEmptyOneLoadsNothing) {
-  std::string name = " /sounds/menu/enter.wav  ";
-  setsound(game, 4, name);
-  EXPECT_EQ(name, "/sounds/menu/enter.wav");
-  std::string empty = "   ";
-  setsound(game, 4, empty);
-  EXPECT_EQ(empty, "");
+TEST_F(Sounds, ANameIsTrimmedAndAnEmptyOneLoadsNothing) {
+  setsound(game, 4, " /sounds/menu/enter.wav  ");
+  setsound(game, 4, "   ");
   EXPECT_EQ(game.bufferfile[4], "/sounds/menu/enter.wav");
   EXPECT_EQ(log(), "");
 }

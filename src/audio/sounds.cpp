@@ -70,8 +70,7 @@ std::size_t tableindex(double angle) {
 void makesound(Game& game, std::string_view name, double volume, double pan, bool loop,
                int buffer) {
   if (buffer == -1) buffer = nextinrotation(game);
-  std::string file(name);
-  setsound(game, buffer, file);
+  setsound(game, buffer, name);
   setvol(game, buffer, volume);
   setpan(game, buffer, pan);
   start(game, buffer, loop);
@@ -81,13 +80,14 @@ void playeffect(Game& game, std::string_view name) {
   makesound(game, name, 0, 0, false, -1);
 }
 
-void setsound(Game& game, int buffer, std::string& name) {
+void setsound(Game& game, int buffer, std::string_view name) {
   logged(game, "setsound", [&] {
-    name = std::string(trim(name));
+    name = trim(name);
     if (name.empty()) return;
     const std::filesystem::path* file = game.soundfinder.find(game.programfolder, name);
     if (file == nullptr) {
-      logline(game.programfolder, "File is missing: " + textof(game.programfolder) + name);
+      logline(game.programfolder,
+              "File is missing: " + textof(game.programfolder) + std::string(name));
       return;
     }
     std::string& held = fileof(game, buffer);
@@ -97,20 +97,22 @@ void setsound(Game& game, int buffer, std::string& name) {
   });
 }
 
-void setvol(Game& game, int buffer, double& volume) {
+double setvol(Game& game, int buffer, double volume) {
+  volume = hundredth(volume);
   logged(game, "setvol", [&] {
-    volume = hundredth(volume);
     if (volume < -5000 || volume > 0 || !holdssound(game, buffer)) return;
     game.dsound->setvolume(buffer, static_cast<int>(volume));
   });
+  return volume;
 }
 
-void setpan(Game& game, int buffer, double& pan) {
+double setpan(Game& game, int buffer, double pan) {
+  pan = hundredth(pan);
   logged(game, "setpan", [&] {
-    pan = hundredth(pan);
     if (pan < -10000 || pan > 10000 || !holdssound(game, buffer)) return;
     game.dsound->setpan(buffer, static_cast<int>(pan));
   });
+  return pan;
 }
 
 double quicksin(Game& game, double angle) {

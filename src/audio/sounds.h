@@ -14,12 +14,12 @@ void makesound(Game& game, std::string_view name, double volume, double pan, boo
 // makesound() as every menu and page uses it: once, at full volume, centred, in the next buffer.
 void playeffect(Game& game, std::string_view name);
 
-// Loads a WAV file into a buffer; `name` comes back trimmed. A missing or bad file is logged, and
-// the buffer keeps what it held.
-void setsound(Game& game, int buffer, std::string& name);
-// Each comes back rounded to two decimals; a value out of range changes nothing.
-void setvol(Game& game, int buffer, double& volume);
-void setpan(Game& game, int buffer, double& pan);
+// Loads a WAV file into a buffer; spaces around its name do not count. A missing or bad file is
+// logged, and the buffer keeps what it held.
+void setsound(Game& game, int buffer, std::string_view name);
+// Each returns the value rounded to two decimals; one out of range changes nothing.
+double setvol(Game& game, int buffer, double volume);
+double setpan(Game& game, int buffer, double pan);
 
 // Table lookups of the sine and cosine of an angle in radians, for sounds placed around the player;
 // none is yet.

@@ -139,7 +139,9 @@ class JawsApi {
   virtual bool there() { return true; }
 };
 
-// A sound device with numbered buffers for effects.
+inline constexpr int soundbuffercount = 50;
+
+// A sound device with numbered buffers for effects, 0 to soundbuffercount - 1.
 class SoundDevice {
  public:
   virtual ~SoundDevice() = default;

@@ -54,8 +54,7 @@ bool startsound(Game& game) {
   }
   // Every buffer holds a valid sound from the start.
   for (int buffer = 0; buffer <= game.maxbuffer; ++buffer) {
-    std::string sound = "\\sounds\\menu\\arrows.wav";
-    setsound(game, buffer, sound);
+    setsound(game, buffer, "\\sounds\\menu\\arrows.wav");
   }
   return true;
 }

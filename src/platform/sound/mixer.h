@@ -8,6 +8,7 @@
 #include <mutex>
 #include <vector>
 
+#include "platform/desktop.h"
 #include "platform/sound/audiosource.h"
 #include "platform/sound/levels.h"
 #include "platform/sound/mailbox.h"
@@ -25,7 +26,7 @@ struct Clip {
 // does, and throws PlatformError for a slot that does not exist.
 class Mixer {
  public:
-  static constexpr int slotcount = 50;
+  static constexpr int slotcount = soundbuffercount;
 
   // `clip`, which must not be empty, replaces what the slot holds: stopped, at full volume,
   // centred.

@@ -73,11 +73,6 @@ void reviewhistory(Game& game, KeyPress press) {
   sayit(game, "Rev " + std::to_string(game.reviewpos) + ", " + game.saidlines[game.reviewpos]);
 }
 
-void settitle(Game& game, std::string_view title) {
-  game.caption = title;
-  game.desktop.window.settitle(title);
-}
-
 void giverate(Game& game) {
   guarded(game, [&] {
     if (game.sapiready == 1) game.sapivoice->setrate(game.sapirate);

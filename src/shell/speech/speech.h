@@ -24,8 +24,6 @@ void loadjaws(Game& game);
 // Steps through what was said; `keycode` is one of the review keys.
 void reviewhistory(Game& game, KeyPress key);
 
-// Sets the window title.
-void settitle(Game& game, std::string_view title);
 // Tells the voice its rate, if there is a voice.
 void giverate(Game& game);
 

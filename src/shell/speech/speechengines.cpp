@@ -3,7 +3,7 @@
 #include <string>
 
 #include "shell/speech/guarded.h"
-#include "shell/speech/speech.h"
+#include "shell/speech/title.h"
 
 namespace duskmarch {
 

@@ -7,6 +7,7 @@
 #include "shell/speech/progress.h"
 #include "shell/speech/speech.h"
 #include "shell/speech/speechengines.h"
+#include "shell/speech/title.h"
 
 namespace duskmarch {
 
