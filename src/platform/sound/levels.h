@@ -22,6 +22,12 @@ inline Levels levels(int volume, int pan) {
   return {gain(volume - std::max(pan, 0)), gain(volume + std::min(pan, 0))};
 }
 
+// `place` from -100 (left) to 100 (right): as it is in the middle, and equally loud everywhere.
+inline Levels placed(int volume, int place) {
+  const auto right = static_cast<float>(std::clamp(place, -100, 100) + 100) / 100;
+  return {gain(volume) * std::sqrt(2 - right), gain(volume) * std::sqrt(right)};
+}
+
 // Adds mono or stereo samples to interleaved stereo; mono is heard on both sides.
 inline void addframes(const float* from, std::size_t channels, Levels levels, float* to,
                       std::size_t frames) {

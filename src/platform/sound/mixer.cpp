@@ -6,6 +6,12 @@
 #include "platform/desktop.h"
 
 namespace duskmarch {
+namespace {
+
+constexpr float underspeech = 0.5F;  // 6 dB
+
+}  // namespace
+
 template <class Change>
 void Mixer::order(int slot, Change change) {
   if (slot < 0 || slot >= slotcount) {
@@ -59,19 +65,37 @@ void Mixer::tidy() {
   const std::lock_guard guard(control_);
   for (Slot& slot : slots_) slot.orders.tidy();
   sourcelists_.tidy();
+  cues_.tidy();
+  ambience_.tidy();
 }
 
 void Mixer::render(float* samples, std::size_t frames) noexcept {
+  const std::uint64_t now = clock_;
+  clock_ = now + frames;  // what is asked for from here on waits for the next block
   std::fill_n(samples, 2 * frames, 0.0F);
   for (Slot& slot : slots_) slot.mix(samples, frames);
-  if (const Sources* sources = sourcelists_.read()) {
-    for (const auto& source : *sources) source->mix(samples, frames);
-  }
+  const bool speech = mixsources(samples, frames) || speaking_;
+  cues_.mix(samples, frames, now, speech ? underspeech : 1.0F);
+  ambience_.mix(samples, frames, now, 1.0F);
   for (std::size_t n = 0; n < 2 * frames; ++n) samples[n] = std::clamp(samples[n], -1.0F, 1.0F);
+}
+
+bool Mixer::mixsources(float* samples, std::size_t frames) noexcept {
+  bool speech = false;
+  const Sources* sources = sourcelists_.read();
+  if (sources == nullptr) return speech;
+  for (const auto& source : *sources) {
+    speech = source->speaks() || speech;
+    source->mix(samples, frames);
+  }
+  return speech;
 }
 
 void Mixer::skip(std::size_t frames) noexcept {
   for (Slot& slot : slots_) slot.skip(frames);
+  cues_.skip(frames, clock_);
+  ambience_.skip(frames, clock_);
+  clock_ += frames;
 }
 
 const Mixer::Order* Mixer::Slot::heard() noexcept {

@@ -1,26 +1,23 @@
-// Adds up everything that sounds: the numbered slots for effects and any number of sources, such as
-// the voice and the music.
+// Adds up everything that sounds: the numbered slots for effects, any number of sources, such as
+// the voice and the music, and beside them the cues and the ambience.
 #pragma once
 
 #include <array>
+#include <atomic>
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <mutex>
 #include <vector>
 
 #include "platform/desktop.h"
 #include "platform/sound/audiosource.h"
+#include "platform/sound/clip.h"
 #include "platform/sound/levels.h"
 #include "platform/sound/mailbox.h"
+#include "platform/sound/timedvoices.h"
 
 namespace duskmarch {
-
-// A decoded effect: interleaved samples at mixrate, mono or stereo.
-struct Clip {
-  std::size_t channels = 1;
-  std::vector<float> samples;
-  std::size_t frames() const { return samples.size() / channels; }
-};
 
 // Every call but render() and skip() comes from any thread, returns at once whatever the device
 // does, and throws PlatformError for a slot that does not exist.
@@ -42,13 +39,23 @@ class Mixer {
   void addsource(std::shared_ptr<AudioSource> source);
   void removesource(const AudioSource& source);
 
+  // Sixteen at once; cut off, they fade within 20 milliseconds. They are lowered while anything
+  // speaks.
+  TimedVoices& cues() { return cues_; }
+  // One loop, or two while one takes the other's place within half a second.
+  TimedVoices& ambience() { return ambience_; }
+  // The sample clock: the frame at which the next block begins.
+  std::uint64_t now() const { return clock_; }
+  // Whether a voice speaks that is not among the sources. The sources tell it themselves.
+  void setspeaking(bool speaking) { speaking_ = speaking; }
+
   // Frees what the audio thread no longer needs. Other calls do so too; this is for quiet times.
   void tidy();
 
   // The next `frames` frames of interleaved stereo, each sample from -1 to 1. It does not wait,
   // allocate or free. One thread at a time, like skip().
   void render(float* samples, std::size_t frames) noexcept;
-  // Lets `frames` frames of the effects pass unheard; sources stand still.
+  // Lets `frames` frames of the effects, cues and ambience pass unheard; sources stand still.
   void skip(std::size_t frames) noexcept;
 
  private:
@@ -77,6 +84,8 @@ class Mixer {
   };
   using Sources = std::vector<std::shared_ptr<AudioSource>>;
 
+  // Whether anything spoke.
+  bool mixsources(float* samples, std::size_t frames) noexcept;
   // Changes what is wanted of a slot and tells the audio thread.
   template <class Change>
   void order(int slot, Change change);
@@ -85,6 +94,10 @@ class Mixer {
   std::array<Slot, slotcount> slots_;
   Sources sources_;  // guarded by control_
   Mailbox<Sources> sourcelists_;
+  std::atomic<std::uint64_t> clock_ = 0;
+  std::atomic<bool> speaking_ = false;
+  TimedVoices cues_{{.atonce = 16, .fadein = 0, .fadeout = mixrate / 50}};
+  TimedVoices ambience_{{.atonce = 4, .fadein = mixrate / 2, .fadeout = mixrate / 2}};
 };
 
 }  // namespace duskmarch

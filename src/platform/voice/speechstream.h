@@ -32,6 +32,7 @@ class SpeechStream final : public AudioSource {
   bool drained() const noexcept;
 
   void mix(float* samples, std::size_t frames) noexcept override;
+  bool speaks() const noexcept override { return !drained(); }
 
  private:
   // Half a second is kept ahead. The ring holds more than that: what was cut off stays in it until
