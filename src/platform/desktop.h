@@ -10,6 +10,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <memory>
+#include <span>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -139,6 +140,37 @@ class JawsApi {
   virtual bool there() { return true; }
 };
 
+// A sound of a fight or of the map.
+struct Cue {
+  std::string_view name = {};       // in the table of cues
+  std::filesystem::path file = {};  // a WAV file
+  int pan = 0;                      // -100 (left) to 100 (right)
+  int pitch = 0;                    // hundredths of a semitone, -2400 to 2400
+  int delay = 0;                    // milliseconds from the call
+  int loudness = 0;                 // hundredths of a decibel, 0 or less
+  int weight = 0;                   // of too many at once the lightest go first
+};
+
+// Cues, sixteen at once, and one loop for the place where one is. Both have voices of their own
+// beside the numbered buffers and the music, and are softer while the game's own voice speaks.
+// A file is read when it is first asked for, and kept.
+class CueDevice {
+ public:
+  virtual ~CueDevice() = default;
+  // All delays count from one moment. A missing or bad file is silence: it is reported, after the
+  // others have been started, the first time that it is asked for.
+  virtual void playcues(std::span<const Cue> cues) = 0;
+  // What has not begun never will; what sounds fades at once.
+  virtual void stopcues() = 0;
+  // Fades from what is heard to the loop in `file`; an empty name means none. The loop that is
+  // heard already goes on. A bad file means none, and is reported once.
+  virtual void setambience(std::string_view name, const std::filesystem::path& file,
+                           int loudness) = 0;
+  // 0 (silent) to 10 (as loud as the files are), two decibels a step. 10 until it is set.
+  virtual void setcuevolume(int volume) = 0;
+  virtual void setambiencevolume(int volume) = 0;
+};
+
 inline constexpr int soundbuffercount = 50;
 
 // A sound device with numbered buffers for effects, 0 to soundbuffercount - 1.
@@ -155,6 +187,8 @@ class SoundDevice {
   virtual void setpan(int buffer, int pan) = 0;
   // From the start; `loop` repeats it until it is replaced. A buffer never loaded stays silent.
   virtual void play(int buffer, bool loop) = 0;
+  // The same device's cues and ambience, as long as it is there.
+  virtual CueDevice& cues() = 0;
 };
 
 // One music file being played. Destroying it ends the music.

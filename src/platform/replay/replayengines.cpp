@@ -45,6 +45,18 @@ void ReplaySound::play(int buffer, bool loop) {
   transcript_.event("play", buffer, held.volume, held.pan, loop ? 1 : 0, held.name);
 }
 
+void ReplayCues::playcues(std::span<const Cue> cues) {
+  for (const Cue& cue : cues) {
+    transcript_.event("cue", cue.name, cue.pan, cue.pitch, cue.delay);
+  }
+}
+
+void ReplayCues::setambience(std::string_view name, const std::filesystem::path&, int) {
+  if (name == ambience_) return;
+  ambience_ = name;
+  transcript_.event("ambience", name);
+}
+
 ReplayMusic::ReplayMusic(const std::filesystem::path& file) {
   const std::string bytes = beginning(file, 3);
   const bool frame = bytes.size() >= 2 && bytes[0] == '\xFF' && (bytes[1] & '\xE0') == '\xE0';

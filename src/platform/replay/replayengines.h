@@ -34,14 +34,30 @@ class ReplayJaws final : public JawsApi {
   Transcript& transcript_;
 };
 
+// Cues and ambience are lines, nothing else: no file of them is read.
+class ReplayCues final : public CueDevice {
+ public:
+  explicit ReplayCues(Transcript& transcript) : transcript_(transcript) {}
+  void playcues(std::span<const Cue> cues) override;
+  void stopcues() override {}
+  void setambience(std::string_view name, const std::filesystem::path& file, int loudness) override;
+  void setcuevolume(int) override {}
+  void setambiencevolume(int) override {}
+
+ private:
+  Transcript& transcript_;
+  std::string ambience_;
+};
+
 // A sound is good when its file begins as a RIFF WAVE file.
 class ReplaySound final : public SoundDevice {
  public:
-  explicit ReplaySound(Transcript& transcript) : transcript_(transcript) {}
+  explicit ReplaySound(Transcript& transcript) : transcript_(transcript), cues_(transcript) {}
   void load(int buffer, std::string_view name, const std::filesystem::path& file) override;
   void setvolume(int buffer, int volume) override { at(buffer).volume = volume; }
   void setpan(int buffer, int pan) override { at(buffer).pan = pan; }
   void play(int buffer, bool loop) override;
+  CueDevice& cues() override { return cues_; }
 
  private:
   struct Buffer {
@@ -60,6 +76,7 @@ class ReplaySound final : public SoundDevice {
   Transcript& transcript_;
   std::array<Buffer, soundbuffercount> buffers_;
   std::map<std::filesystem::path, Look> looks_;
+  ReplayCues cues_;
 };
 
 // Music plays unheard; a file is good when it begins as an MP3 stream or with an ID3 tag.

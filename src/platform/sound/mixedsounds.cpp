@@ -4,7 +4,7 @@
 
 namespace duskmarch {
 
-MixedSounds::MixedSounds(std::shared_ptr<Mixer> mixer) : mixer_(std::move(mixer)) {}
+MixedSounds::MixedSounds(std::shared_ptr<Mixer> mixer) : mixer_(std::move(mixer)), cues_(mixer_) {}
 
 void MixedSounds::load(int buffer, std::string_view name, const std::filesystem::path& file) {
   try {

@@ -5,6 +5,7 @@
 
 #include "platform/desktop.h"
 #include "platform/sound/clipcache.h"
+#include "platform/sound/mixedcues.h"
 #include "platform/sound/mixer.h"
 
 namespace duskmarch {
@@ -16,10 +17,12 @@ class MixedSounds : public SoundDevice {
   void setvolume(int buffer, int volume) override;
   void setpan(int buffer, int pan) override;
   void play(int buffer, bool loop) override;
+  CueDevice& cues() override { return cues_; }
 
  private:
   std::shared_ptr<Mixer> mixer_;
   ClipCache clips_;
+  MixedCues cues_;
 };
 
 }  // namespace duskmarch

@@ -1,0 +1,95 @@
+#include "platform/sound/mixedcues.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "platform/sound/wavfile.h"
+
+namespace duskmarch {
+namespace {
+
+constexpr int framesamillisecond = mixrate / 1000;
+constexpr int loudest = 10;
+constexpr int volumestep = 200;  // hundredths of a decibel
+constexpr int furthestpitch = 2400;
+
+float levelof(int volume) {
+  return volume <= 0 ? 0.0F : gain(volumestep * (std::min(volume, loudest) - loudest));
+}
+
+std::uint64_t framesof(int milliseconds) {
+  return static_cast<std::uint64_t>(std::max(milliseconds, 0)) * framesamillisecond;
+}
+
+void complain(const std::string& problems) {
+  if (!problems.empty()) throw PlatformError(problems);
+}
+
+}  // namespace
+
+MixedCues::MixedCues(std::shared_ptr<Mixer> mixer) : mixer_(std::move(mixer)) {}
+
+MixedCues::~MixedCues() {
+  mixer_->cues().stop();
+  mixer_->ambience().stop();
+}
+
+void MixedCues::playcues(std::span<const Cue> cues) {
+  const std::uint64_t now = mixer_->now();
+  std::vector<TimedSound> sounds;
+  std::string problems;
+  for (const Cue& cue : cues) {
+    SharedClip clip = clipof(cue.name, cue.file, problems);
+    if (!clip) continue;
+    sounds.push_back({.clip = std::move(clip),
+                      .start = now + framesof(cue.delay),
+                      .levels = placed(cue.loudness, cue.pan),
+                      .pitch = std::clamp(cue.pitch, -furthestpitch, furthestpitch),
+                      .weight = cue.weight});
+  }
+  if (!sounds.empty()) mixer_->cues().start(std::move(sounds));
+  complain(problems);
+}
+
+void MixedCues::stopcues() {
+  mixer_->cues().stop();
+}
+
+void MixedCues::setambience(std::string_view name, const std::filesystem::path& file,
+                            int loudness) {
+  if (name == ambience_) return;
+  ambience_ = name;
+  mixer_->ambience().stop();
+  if (name.empty()) return;
+  std::string problems;
+  if (SharedClip clip = clipof(name, file, problems)) {
+    mixer_->ambience().start({{.clip = std::move(clip),
+                               .start = mixer_->now(),
+                               .levels = placed(loudness, 0),
+                               .loop = true}});
+  }
+  complain(problems);
+}
+
+void MixedCues::setcuevolume(int volume) {
+  mixer_->cues().setlevel(levelof(volume));
+}
+
+void MixedCues::setambiencevolume(int volume) {
+  mixer_->ambience().setlevel(levelof(volume));
+}
+
+MixedCues::SharedClip MixedCues::clipof(std::string_view name, const std::filesystem::path& file,
+                                        std::string& problems) {
+  const auto [place, fresh] = clips_.try_emplace(file);
+  if (!fresh) return place->second;
+  try {
+    place->second = std::make_shared<const Clip>(readwav(file));
+  } catch (const std::exception& error) {
+    if (!problems.empty()) problems += "; ";
+    problems += std::string(name) + ": " + error.what();
+  }
+  return place->second;
+}
+
+}  // namespace duskmarch

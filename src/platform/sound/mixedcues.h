@@ -1,0 +1,38 @@
+// Cues and ambience on the mixer's timed voices.
+#pragma once
+
+#include <map>
+#include <memory>
+#include <string>
+
+#include "platform/desktop.h"
+#include "platform/sound/mixer.h"
+
+namespace duskmarch {
+
+class MixedCues final : public CueDevice {
+ public:
+  explicit MixedCues(std::shared_ptr<Mixer> mixer);
+  MixedCues(const MixedCues&) = delete;
+  MixedCues& operator=(const MixedCues&) = delete;
+  // Ends what sounds: nobody could end it after that.
+  ~MixedCues() override;
+
+  void playcues(std::span<const Cue> cues) override;
+  void stopcues() override;
+  void setambience(std::string_view name, const std::filesystem::path& file, int loudness) override;
+  void setcuevolume(int volume) override;
+  void setambiencevolume(int volume) override;
+
+ private:
+  using SharedClip = std::shared_ptr<const Clip>;
+  // Null for a bad file; why it is bad is added to `problems` when it is first asked for.
+  SharedClip clipof(std::string_view name, const std::filesystem::path& file,
+                    std::string& problems);
+
+  std::shared_ptr<Mixer> mixer_;
+  std::map<std::filesystem::path, SharedClip> clips_;  // null: the file is bad
+  std::string ambience_;
+};
+
+}  // namespace duskmarch
