@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QScreen>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <algorithm>
@@ -14,6 +15,7 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/qt/application.h"
 #include "platform/qt/frontend.h"
 #include "shell/speech/keycodes.h"
 #include "shell/speech/pages.h"
@@ -56,6 +58,7 @@ class QtWindowTest : public testing::Test {
     window.attach(game);
     startup(game);
     game.sapivoice = std::make_unique<Recorder>(said);
+    window.resize(1288, 660);  // more than the screen here
     window.show();
     window.processevents();
   }
@@ -91,6 +94,14 @@ class QtWindowTest : public testing::Test {
   Desktop desktop{system, window, summarylabel, storylabel, dialogs};
   Game game{desktop};
 };
+
+TEST_F(QtWindowTest, OpensNoLargerThanTheScreensFreeArea) {
+  const QtWindow another;
+  const QSize room = another.screen()->availableSize();
+  ASSERT_LT(room.width(), 1288);
+  EXPECT_LT(another.width(), room.width());
+  EXPECT_LT(another.height(), room.height());
+}
 
 TEST_F(QtWindowTest, PassesEveryKeyAndKeepsTheFocus) {
   for (const int key : {Qt::Key_Tab, Qt::Key_Down, Qt::Key_Escape, Qt::Key_Control}) {
@@ -371,6 +382,6 @@ int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   qputenv("SDL_AUDIODRIVER", "dummy");
   testing::InitGoogleTest(&argc, argv);
-  const QApplication application(argc, argv);
+  const duskmarch::Application application(argc, argv);
   return RUN_ALL_TESTS();
 }

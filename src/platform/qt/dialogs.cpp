@@ -10,6 +10,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 #include <array>
+#include <memory>
 #include <string>
 #include <utility>
 
@@ -31,6 +32,7 @@ class Box : public QDialog {
   Box(QtWindow& parent, std::string_view title, std::string_view text,
       QDialogButtonBox::StandardButtons buttons)
       : QDialog(&parent),
+        window_(parent),
         game_(parent.game()),
         told_(toqt(text)),
         text_(toqt(text).replace(u'&', QStringLiteral("&&"))),
@@ -55,9 +57,20 @@ class Box : public QDialog {
     field.setFocus();
   }
 
+  // Tells of its end, and no more: the window closes it. Keys that still come are the game's.
+  void done(int result) override {
+    setResult(result);
+    over_ = true;
+    Q_EMIT finished(result);
+  }
+
   bool eventFilter(QObject* object, QEvent* event) override {
     if (event->type() != QEvent::KeyPress) return false;
-    const auto& key = static_cast<const QKeyEvent&>(*event);
+    auto& key = static_cast<QKeyEvent&>(*event);
+    if (over_) {
+      const auto* widget = qobject_cast<QWidget*>(object);
+      return widget != nullptr && widget->window() == this && window_.takekey(key);
+    }
     // What the box itself gets has been through its parts, which may have told something since.
     if (object != this) tellkey(key);
     return false;
@@ -92,8 +105,10 @@ class Box : public QDialog {
     }
   }
 
+  QtWindow& window_;
   Game* game_;
   QString told_;
+  bool over_ = false;
   QLabel text_;
   QDialogButtonBox buttons_;
   QVBoxLayout layout_;
@@ -133,18 +148,22 @@ class Field : public QLineEdit {
 }  // namespace
 
 std::string QtDialogs::input(std::string_view title, std::string_view prompt) {
-  Box box(window_, title, prompt, QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
-  Field field(box);
-  box.add(field);
-  window_.runmodal(box);
-  return box.result() == QDialog::Accepted ? fromqt(field.text()) : std::string();
+  auto box = std::make_unique<Box>(window_, title, prompt,
+                                   QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+  auto* field = new Field(*box);  // the box's own
+  box->add(*field);
+  window_.runmodal(*box);
+  std::string typed = box->result() == QDialog::Accepted ? fromqt(field->text()) : std::string();
+  window_.closelater(std::move(box));
+  return typed;
 }
 
 void QtDialogs::message(std::string_view title, std::string_view text) {
-  Box box(window_, title, text, QDialogButtonBox::Ok);
+  auto box = std::make_unique<Box>(window_, title, text, QDialogButtonBox::Ok);
   // A screen reader does not read a button's text with it, and passes over short texts alone.
-  box.setAccessibleDescription(toqt(text));
-  window_.runmodal(box);
+  box->setAccessibleDescription(toqt(text));
+  window_.runmodal(*box);
+  window_.closelater(std::move(box));
 }
 
 }  // namespace duskmarch

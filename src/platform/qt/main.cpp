@@ -1,10 +1,10 @@
 // The game in its window.
-#include <QApplication>
 #include <csignal>
 #include <filesystem>
 #include <system_error>
 
 #include "game.h"
+#include "platform/qt/application.h"
 #include "platform/qt/crashhandler.h"
 #include "platform/qt/frontend.h"
 #include "platform/qt/screenreader.h"
@@ -24,8 +24,9 @@ std::filesystem::path programfolder() {
 int main(int argc, char** argv) {
   std::signal(SIGPIPE, SIG_IGN);  // a speech service that dies must not take the game with it
   duskmarch::servescreenreaders();
-  const QApplication application(argc, argv);
+  duskmarch::Application application(argc, argv);
   QApplication::setApplicationName(QStringLiteral("Duskmarch"));  // shown for an empty title
+  application.awaitaccessibility();
   const std::filesystem::path folder = programfolder();
   duskmarch::FrontEnd frontend(folder);
   duskmarch::Game game(frontend.desktop());

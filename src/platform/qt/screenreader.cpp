@@ -46,6 +46,13 @@ ScreenReader::ScreenReader(QWidget& window) : window_(window) {
   timer_.start(1s);
 }
 
+// The event that comes with it holds no name. A reader says nothing to it, and forgets the name
+// that it knew: it asks for the new one when it needs it. An empty title is shown as the program's
+// name.
+void ScreenReader::retitled(const QString& title) {
+  window_.setAccessibleName(title.trimmed().isEmpty() ? QStringLiteral("Duskmarch") : title);
+}
+
 // Neither setWindowTitle() nor setAccessibleName() sends an event that a reader understands, so
 // this one is made by hand. A reader keeps silent about a name that it knows already: the number
 // of spaces at the end makes each one new.

@@ -17,6 +17,8 @@ class ScreenReader {
  public:
   explicit ScreenReader(QWidget& window);
 
+  // The window's name for a reader is its new title, at all times; nothing is said.
+  void retitled(const QString& title);
   // Has the reader say the window's new title, also when it is the same as before. While the window
   // is not active no reader listens; it says the title by itself when the window is active again.
   void announce(const QString& title);

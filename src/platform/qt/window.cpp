@@ -2,7 +2,9 @@
 
 #include <QApplication>
 #include <QEventLoop>
+#include <QIcon>
 #include <QKeyEvent>
+#include <QScreen>
 #include <QTimer>
 #include <utility>
 
@@ -14,6 +16,18 @@
 
 namespace duskmarch {
 
+namespace {
+
+// What there is of `wanted` on the screen, less what a title bar and borders take: they are known
+// only when the window is there.
+QSize fitting(QSize wanted) {
+  const QScreen* screen = QGuiApplication::primaryScreen();
+  if (screen == nullptr) return wanted;
+  return wanted.boundedTo(screen->availableSize() - QSize(16, 48));
+}
+
+}  // namespace
+
 QtWindow::QtWindow() : reader_(*this) {
   setWindowTitle(QStringLiteral("Duskmarch"));
   // A window that gets the focus has its title read out, that is the last text once more; of a
@@ -22,10 +36,9 @@ QtWindow::QtWindow() : reader_(*this) {
   centralWidget()->setFocusPolicy(Qt::StrongFocus);
   setFocusProxy(centralWidget());
   setAttribute(Qt::WA_OpaquePaintEvent);  // the picture covers all of it
-  setMinimumSize(320, 200);
-  resize(1288, 660);
+  setWindowIcon(QIcon(QStringLiteral(":/duskmarch.ico")));
+  resize(fitting({1288, 660}));
   fitpicture();
-  qApp->installEventFilter(this);
 }
 
 void QtWindow::end() {
@@ -52,6 +65,7 @@ bool QtWindow::takekey(QKeyEvent& event) {
     return false;
   }
   if (const auto press = virtualkey(event); press && game_ != nullptr) keypress(*game_, *press);
+  closeboxes();
   return true;
 }
 
@@ -62,17 +76,34 @@ void QtWindow::runmodal(QDialog& box) {
   QObject::connect(&box, &QDialog::finished, &loop, &QEventLoop::quit);
   box.show();
   box.activateWindow();
+  dropboxes();
   loop.exec();
-  box.hide();
   box_ = outer;
+}
+
+void QtWindow::closelater(std::unique_ptr<QDialog> box) {
+  closedboxes_.push_back(std::move(box));
+  closeboxes();
+}
+
+void QtWindow::closeboxes() {
+  if (closedboxes_.empty() || box_ != nullptr) return;
+  if (game_ != nullptr && game_->keyhandlerbusy && !game_->ended) return;
+  dropboxes();
   activateWindow();
   uncovered();
+}
+
+void QtWindow::dropboxes() {
+  for (const auto& box : closedboxes_) box->hide();  // while it still is a box that hears of it
+  closedboxes_.clear();
 }
 
 void QtWindow::settitle(std::string_view title) {
   const QString before = windowTitle();
   const QString text = toqt(title);
   setWindowTitle(text);
+  reader_.retitled(text);
   // A space at the end only prepares for saying the same title again.
   if (text != before + u' ') reader_.announce(text);
 }
@@ -92,6 +123,7 @@ void QtWindow::processevents() {
 }
 
 void QtWindow::wait(std::chrono::milliseconds duration) {
+  closeboxes();  // nothing more is said before long
   if (game_ != nullptr) handlewaitingkeys(*game_);
   QEventLoop loop;
   QTimer::singleShot(duration, Qt::PreciseTimer, &loop, &QEventLoop::quit);
@@ -125,21 +157,6 @@ void QtWindow::changeEvent(QEvent* event) {
 
 void QtWindow::closeEvent(QCloseEvent*) {
   end();
-}
-
-// Sees the keys before the part of a window that they are for does, and each once: the event for
-// the window as the system knows it.
-bool QtWindow::eventFilter(QObject* object, QEvent* event) {
-  const bool released = event->type() == QEvent::KeyRelease;
-  if (!object->isWindowType() || (!released && event->type() != QEvent::KeyPress)) return false;
-  const auto& key = static_cast<const QKeyEvent&>(*event);
-  if (released) {
-    if (!key.isAutoRepeat()) heldkeys_.released(key.nativeScanCode(), key.timestamp());
-    return false;
-  }
-  const auto press = virtualkey(key);
-  return press && actsonce(press->keycode) &&
-         heldkeys_.repeats(key.nativeScanCode(), key.timestamp(), key.isAutoRepeat());
 }
 
 void QtWindow::fitpicture() {

@@ -3,11 +3,11 @@
 
 #include <QDialog>
 #include <QMainWindow>
+#include <memory>
 #include <vector>
 
 #include "game.h"
 #include "platform/desktop.h"
-#include "platform/frontend/heldkeys.h"
 #include "platform/frontend/picture.h"
 #include "platform/qt/screenreader.h"
 
@@ -30,8 +30,11 @@ class QtWindow : public QMainWindow, public Window {
   void uncovered();
   // A key pressed in the window or in one of its pages. False if it went to the box that is open.
   bool takekey(QKeyEvent& event);
-  // Shows the box, which takes all the keys, until it is closed.
+  // Shows the box, which takes all the keys, until it is closed. To be called with a box that only
+  // tells of its end, and stays: it goes when the key's handler has done its work, so that the
+  // title is set by then. A screen reader reads the title of a window that becomes active.
   void runmodal(QDialog& box);
+  void closelater(std::unique_ptr<QDialog> box);
 
   void settitle(std::string_view title) override;
   Canvas* spokenline() override;
@@ -46,11 +49,12 @@ class QtWindow : public QMainWindow, public Window {
   void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void changeEvent(QEvent* event) override;
-  bool eventFilter(QObject* object, QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
 
  private:
   void fitpicture();
+  void closeboxes();
+  void dropboxes();
   void placepages();
 
   Game* game_ = nullptr;
@@ -58,7 +62,7 @@ class QtWindow : public QMainWindow, public Window {
   ScreenReader reader_;
   std::vector<QWidget*> pages_;
   QDialog* box_ = nullptr;
-  HeldKeys heldkeys_;
+  std::vector<std::unique_ptr<QDialog>> closedboxes_;  // still to be seen
   bool stale_ = true;  // the game must draw again before the surface is shown
 };
 
