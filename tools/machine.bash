@@ -64,6 +64,12 @@ aptget() {
   } 3>&1 || { tail -n 15 "$log" >&2 && return 1; }
 }
 
+# How many megabytes installing PACKAGE... would fetch.
+tofetch() {
+  apt-get install --print-uris -qq --no-install-recommends "$@" 2>/dev/null |
+    awk '{ bytes += $3 } END { printf "%d MB", (bytes + 999999) / 1000000 }'
+}
+
 # Installs what is missing for PURPOSE..., telling first what and why. Elsewhere than on Debian and
 # Ubuntu it goes by the tools that are there, and names the packages where there are none.
 needpackages() {
@@ -89,8 +95,9 @@ needpackages() {
     asroot=(sudo)
   fi
   mkdir -p build
-  say "Installing them. On a new machine this takes a few minutes."
   aptget update || say "The lists of packages could not be brought up to date; trying without."
+  # shellcheck disable=SC2086 # one word a package
+  say "Installing them: $(tofetch $names) to fetch. On a new machine this takes a few minutes."
   # shellcheck disable=SC2086 # one word a package
   aptget install --no-install-recommends $names ||
     stop "apt-get could not install all of these; its reasons are above: $names"

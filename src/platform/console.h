@@ -9,7 +9,7 @@ namespace duskmarch {
 // The program's arguments in UTF-8, its own name first; `count` and `arguments` are those of
 // main().
 std::vector<std::string> commandline(int count, char** arguments);
-// Standard input and output pass bytes on as they are. To be called before either is used.
+// The standard streams pass bytes on as they are. To be called before any is used.
 void usebinarystreams();
 
 }  // namespace duskmarch

@@ -22,8 +22,7 @@ std::vector<std::string> commandline(int /*count*/, char** /*arguments*/) {
 }
 
 void usebinarystreams() {
-  _setmode(_fileno(stdin), _O_BINARY);
-  _setmode(_fileno(stdout), _O_BINARY);
+  for (std::FILE* stream : {stdin, stdout, stderr}) _setmode(_fileno(stream), _O_BINARY);
 }
 
 }  // namespace duskmarch
