@@ -63,7 +63,13 @@ TEST(WavFiles, DamagedOnesAreRefused) {
       {whole.substr(0, whole.size() - 1), more},
       {wav({.data = ""}), "no sound"},
       {wav({.channels = 3, .data = std::string(6, 1)}), "two channels"},
+      {wav({.channels = 0}), "no channels"},
+      {wav({.encoding = 0x1234}), "not known"},
+      {wav({.bits = 12}), "not known"},
+      {whole.substr(0, 12) + whole.substr(36), "no format"},
+      {std::string(whole).replace(32, 1, "\4"), "frames"},
       {wav({.rate = 3999}), "a rate of 3999"},
+      {wav({.rate = 0}), "a rate of 0"},
       {wav({.rate = 192001}), "a rate of 192001"},
       {wav({.encoding = 3, .bits = 32, .data = floats(std::numeric_limits<float>::quiet_NaN())}),
        none},
@@ -73,9 +79,41 @@ TEST(WavFiles, DamagedOnesAreRefused) {
     EXPECT_NE(refusal(folder, bytes).find(reason), std::string::npos)
         << reason << " expected, not: " << refusal(folder, bytes);
   }
-  EXPECT_NE(refusal(folder, wav({.channels = 0})), "");
-  EXPECT_NE(refusal(folder, wav({.rate = 0})), "");
-  EXPECT_NE(refusal(folder, wav({.encoding = 0x1234})), "");
+}
+
+// Half of full scale up and down where the encoding has just that, else its loudest.
+TEST(WavFiles, EveryUsualEncodingIsRead) {
+  const ProgramFolder folder;
+  const auto halves = [](auto half, int bytes) {
+    return number(static_cast<std::uint64_t>(half), bytes) +
+           number(static_cast<std::uint64_t>(-half), bytes);
+  };
+  struct Case {
+    Wav wav;
+    float heard = 0.5F;
+  };
+  const std::string doubles =
+      number(std::bit_cast<std::uint64_t>(0.5), 8) + number(std::bit_cast<std::uint64_t>(-0.5), 8);
+  const Case cases[] = {
+      {{.bits = 8, .data = "\xC0\x40"}},
+      {{.bits = 24, .data = halves(1 << 22, 3)}},
+      {{.bits = 32, .data = halves(1 << 30, 4)}},
+      {{.encoding = 3, .bits = 32, .data = floats(0.5F) + floats(-0.5F)}},
+      {{.encoding = 3, .bits = 64, .data = doubles}},
+      {{.encoding = 6, .bits = 8, .data = "\xAA\x2A"}, 32256 / 32768.0F},
+      {{.encoding = 7, .bits = 8, .data = number(0x0080, 2)}, 32124 / 32768.0F},
+      {{.data = halves(0x4000, 2) + "x"}},  // half a frame is left over
+  };
+  for (const Case& c : cases) {
+    folder.write("x.wav", wav(c.wav));
+    EXPECT_EQ(readwav(folder.path / "x.wav").samples, (std::vector<float>{c.heard, -c.heard}))
+        << c.wav.encoding << " " << c.wav.bits;
+  }
+  std::string longer = wav({.encoding = 0xFFFE});
+  longer.replace(16, 1, "\x28")
+      .insert(36, number(22, 2) + number(16, 2) + number(3, 4) + number(1, 2) + std::string(14, 0));
+  folder.write("x.wav", longer);
+  EXPECT_EQ(readwav(folder.path / "x.wav").samples, (std::vector<float>{0.5F, -0.5F}));
 }
 
 TEST(WavFiles, WhatIsNoRegularFileIsRefusedWithoutWaiting) {

@@ -6,6 +6,7 @@
 
 #include <samplerate.h>
 
+#include "platform/sound/regularfile.h"
 #include "platform/sound/soundfile.h"
 
 namespace duskmarch {

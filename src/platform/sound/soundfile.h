@@ -2,16 +2,12 @@
 #pragma once
 
 #include <cstddef>
-#include <filesystem>
 #include <memory>
 #include <vector>
 
 #include <sndfile.h>
 
 namespace duskmarch {
-
-// All of a regular file. Throws PlatformError for anything else, a pipe among it, without waiting.
-std::vector<std::byte> readregularfile(const std::filesystem::path& file);
 
 // Decodes mono or stereo sound of a rate between 4000 and 192000.
 class SoundDecoder {
@@ -23,7 +19,7 @@ class SoundDecoder {
 
   std::size_t channels() const { return static_cast<std::size_t>(info_.channels); }
   int rate() const { return info_.samplerate; }
-  // SF_FORMAT_WAV, SF_FORMAT_MPEG ...
+  // SF_FORMAT_MPEG ...
   int format() const { return info_.format & SF_FORMAT_TYPEMASK; }
   // As far as the file says.
   std::size_t frames() const;
