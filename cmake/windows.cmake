@@ -7,7 +7,8 @@ set(CMAKE_C_COMPILER ${mingw}-gcc-posix)
 set(CMAKE_CXX_COMPILER ${mingw}-g++-posix)
 set(CMAKE_RC_COMPILER ${mingw}-windres)
 
-set(CMAKE_FIND_ROOT_PATH /usr/${mingw})
+# What tools/windows_libraries has built is found, too.
+set(CMAKE_FIND_ROOT_PATH /usr/${mingw} ${CMAKE_CURRENT_LIST_DIR}/../build/windows.libraries)
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)

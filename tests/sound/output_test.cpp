@@ -8,7 +8,7 @@
 #include <sndfile.h>
 
 #include "../harness.h"
-#include "platform/sound/decodedmusic.h"
+#include "platform/posix/sound/decodedmusic.h"
 #include "platform/sound/soundoutput.h"
 
 namespace duskmarch {

@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "debuglog.h"
-#include "platform/sound/decodedmusic.h"
+#include "platform/posix/sound/decodedmusic.h"
 #include "platform/sound/mixedsounds.h"
 #include "platform/voice/sharedvoice.h"
 #include "platform/voice/steadyspeech.h"

@@ -6,7 +6,7 @@
 #include <string>
 
 #include "platform/desktop.h"
-#include "platform/sound/sdldevice.h"
+#include "platform/sound/outputdevice.h"
 
 namespace duskmarch {
 namespace {
@@ -34,12 +34,12 @@ struct SoundOutput::Keeper {
 
   void keep(const std::shared_ptr<Mixer>& mixer) {
     try {
-      SdlDevice device(mixer);
-      device.open();
+      const std::unique_ptr<OutputDevice> device = createoutputdevice(mixer);
+      device->open();
       set(opened);
       while (!endingwithin(watchinterval)) {
         mixer->tidy();
-        if (device.lost(patience)) replace(device);
+        if (device->lost(patience)) replace(*device);
       }
     } catch (const std::exception& problem) {
       error = problem.what();
@@ -47,14 +47,14 @@ struct SoundOutput::Keeper {
     set(finished);
   }
 
-  void replace(SdlDevice& device) {
+  void replace(OutputDevice& device) {
     report("error in sound: the device is lost; it is opened again as soon as it answers.");
     device.close();
     while (!reopened(device) && !endingwithin(retryinterval)) {
     }
   }
 
-  static bool reopened(SdlDevice& device) {
+  static bool reopened(OutputDevice& device) {
     try {
       device.open();
       return true;

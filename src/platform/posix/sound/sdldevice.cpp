@@ -1,22 +1,35 @@
-#include "platform/sound/sdldevice.h"
+// The sound device through SDL.
+#include <cstdint>
+#include <string>
+#include <utility>
 
 #include <SDL.h>
 
 #include "platform/desktop.h"
+#include "platform/sound/outputdevice.h"
 
 namespace duskmarch {
 namespace {
 
 constexpr Uint16 blockframes = 512;  // 256 underrun on a busy machine
-constexpr std::chrono::seconds longestpause{1};
+class SdlDevice final : public OutputDevice {
+ public:
+  explicit SdlDevice(std::shared_ptr<Mixer> mixer) : feed_(std::move(mixer)) {}
+  SdlDevice(const SdlDevice&) = delete;
+  SdlDevice& operator=(const SdlDevice&) = delete;
+  ~SdlDevice() override;
 
-std::size_t framesin(std::chrono::steady_clock::duration time) {
-  return static_cast<std::size_t>(std::chrono::duration<double>(time).count() * mixrate);
-}
+  // Once a device was opened, always the same driver is tried: another might take the hardware from
+  // a sound server that is just being restarted.
+  void open() override;
+  void close() override;
+  bool lost(int patience) override;
 
-}  // namespace
-
-SdlDevice::SdlDevice(std::shared_ptr<Mixer> mixer) : mixer_(std::move(mixer)) {}
+ private:
+  DeviceFeed feed_;
+  SDL_AudioDeviceID device_ = 0;
+  std::string driver_;
+};
 
 SdlDevice::~SdlDevice() {
   close();
@@ -35,10 +48,10 @@ void SdlDevice::open() {
   wanted.format = AUDIO_F32SYS;
   wanted.channels = 2;
   wanted.samples = blockframes;
-  wanted.userdata = this;
+  wanted.userdata = &feed_;
   wanted.callback = [](void* user, Uint8* bytes, int size) {
-    static_cast<SdlDevice*>(user)->fill(reinterpret_cast<float*>(bytes),
-                                        static_cast<std::size_t>(size) / (2 * sizeof(float)));
+    static_cast<DeviceFeed*>(user)->fill(reinterpret_cast<float*>(bytes),
+                                         static_cast<std::size_t>(size) / (2 * sizeof(float)));
   };
   device_ = SDL_OpenAudioDevice(nullptr, 0, &wanted, nullptr, 0);
   if (device_ == 0) {
@@ -47,7 +60,7 @@ void SdlDevice::open() {
     throw PlatformError(reason);
   }
   driver_ = SDL_GetCurrentAudioDriver();
-  quietcalls_ = 0;
+  feed_.opened();
   SDL_PauseAudioDevice(device_, 0);
 }
 
@@ -59,19 +72,13 @@ void SdlDevice::close() {
 }
 
 bool SdlDevice::lost(int patience) {
-  const unsigned ticks = ticks_.load(std::memory_order_relaxed);
-  quietcalls_ = ticks == seenticks_ ? quietcalls_ + 1 : 0;
-  seenticks_ = ticks;
-  return quietcalls_ >= patience || SDL_GetAudioDeviceStatus(device_) == SDL_AUDIO_STOPPED;
+  return feed_.quiet(patience) || SDL_GetAudioDeviceStatus(device_) == SDL_AUDIO_STOPPED;
 }
 
-void SdlDevice::fill(float* samples, std::size_t frames) noexcept {
-  const auto now = std::chrono::steady_clock::now();
-  const bool first = ticks_.fetch_add(1, std::memory_order_relaxed) == 0;
-  // Effects that were started while the device was away must not come all at once now.
-  if (!first && now - lastfill_ > longestpause) mixer_->skip(framesin(now - lastfill_));
-  lastfill_ = now;
-  mixer_->render(samples, frames);
+}  // namespace
+
+std::unique_ptr<OutputDevice> createoutputdevice(std::shared_ptr<Mixer> mixer) {
+  return std::make_unique<SdlDevice>(std::move(mixer));
 }
 
 }  // namespace duskmarch

@@ -1,4 +1,4 @@
-#include "platform/sound/soundfile.h"
+#include "platform/posix/sound/soundfile.h"
 
 #include <algorithm>
 #include <cstring>

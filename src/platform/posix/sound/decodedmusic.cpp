@@ -1,4 +1,4 @@
-#include "platform/sound/decodedmusic.h"
+#include "platform/posix/sound/decodedmusic.h"
 
 #include <algorithm>
 #include <array>
@@ -6,8 +6,8 @@
 
 #include <samplerate.h>
 
+#include "platform/posix/sound/soundfile.h"
 #include "platform/sound/regularfile.h"
-#include "platform/sound/soundfile.h"
 
 namespace duskmarch {
 

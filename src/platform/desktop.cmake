@@ -1,0 +1,33 @@
+# On Linux and its like: the window is Qt's.
+find_package(PkgConfig REQUIRED)
+find_package(Qt6 6.2 REQUIRED COMPONENTS Widgets DBus)
+pkg_check_modules(sdl2 REQUIRED IMPORTED_TARGET sdl2)
+pkg_check_modules(sndfile REQUIRED IMPORTED_TARGET sndfile)
+pkg_check_modules(samplerate REQUIRED IMPORTED_TARGET samplerate)
+pkg_check_modules(speechd REQUIRED IMPORTED_TARGET speech-dispatcher)
+find_path(espeak_ng_include espeak-ng/speak_lib.h REQUIRED)
+find_library(espeak_ng_library espeak-ng REQUIRED)
+
+target_link_libraries(sound PRIVATE PkgConfig::sdl2 PkgConfig::sndfile PkgConfig::samplerate)
+if(sndfile_VERSION VERSION_LESS 1.1)
+  # It knows no MP3, as on Ubuntu 22.04: these are the names it lacks, and music is refused.
+  target_compile_definitions(sound PUBLIC SF_FORMAT_MPEG=0x230000 SF_FORMAT_MPEG_LAYER_III=0x82)
+endif()
+
+file(GLOB voice_sources CONFIGURE_DEPENDS voice/*.cpp)
+add_library(voice STATIC ${voice_sources})
+target_include_directories(voice PUBLIC ${CMAKE_SOURCE_DIR}/src PRIVATE ${espeak_ng_include})
+target_link_libraries(voice PUBLIC Threads::Threads
+  PRIVATE values ${espeak_ng_library} PkgConfig::speechd PkgConfig::samplerate)
+
+file(GLOB qt_sources CONFIGURE_DEPENDS qt/*.cpp)
+list(FILTER qt_sources EXCLUDE REGEX "/main\\.cpp$")
+add_library(qt_desktop STATIC ${qt_sources})
+target_compile_definitions(qt_desktop PUBLIC QT_NO_KEYWORDS)  # "signals" is a word like any other
+target_link_libraries(qt_desktop PUBLIC frontend sound voice Qt6::Widgets Qt6::DBus)
+add_executable(duskmarch qt/main.cpp)
+qt_add_resources(duskmarch icon PREFIX / BASE ${CMAKE_SOURCE_DIR}/packaging
+  FILES ${CMAKE_SOURCE_DIR}/packaging/duskmarch.ico)
+target_link_libraries(duskmarch PRIVATE qt_desktop)
+add_dependencies(duskmarch sounds)
+install(TARGETS duskmarch DESTINATION .)

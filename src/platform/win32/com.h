@@ -1,0 +1,53 @@
+// What every use of the system's objects needs: a thread that may use them, and one share of each.
+#pragma once
+
+#include <utility>
+
+#include <windows.h>
+
+namespace duskmarch {
+
+// Lets the thread use objects while this lives.
+class ComThread {
+ public:
+  ComThread() : entered_(SUCCEEDED(CoInitializeEx(nullptr, COINIT_MULTITHREADED))) {}
+  ComThread(const ComThread&) = delete;
+  ComThread& operator=(const ComThread&) = delete;
+  ~ComThread() {
+    if (entered_) CoUninitialize();
+  }
+
+ private:
+  bool entered_;
+};
+
+// One share of an object, or none.
+template <class Object>
+class ComPtr {
+ public:
+  ComPtr() = default;
+  ComPtr(ComPtr&& other) noexcept : object_(std::exchange(other.object_, nullptr)) {}
+  ComPtr& operator=(ComPtr&& other) noexcept {
+    std::swap(object_, other.object_);
+    return *this;
+  }
+  ~ComPtr() { reset(); }
+
+  void reset() {
+    if (object_ != nullptr) std::exchange(object_, nullptr)->Release();
+  }
+  Object* operator->() const { return object_; }
+  Object* get() const { return object_; }
+  explicit operator bool() const { return object_ != nullptr; }
+  // For a call that hands over a share.
+  Object** put() {
+    reset();
+    return &object_;
+  }
+  void** putvoid() { return reinterpret_cast<void**>(put()); }
+
+ private:
+  Object* object_ = nullptr;
+};
+
+}  // namespace duskmarch
