@@ -64,12 +64,12 @@ def main():
     known = [("0x%X" % a, "0x%X" % b) for a, b in printable(folder)]
     lines = [
         "// Written by tools/make_unicode_tables.py from Unicode %s." % version[1],
-        '#include "values/unicodetables.h"', "", "namespace duskmarch::unicode {", "namespace {", "",
+        '#include "values/unicodetables.h"', "", "#include <array>", "", "namespace duskmarch::unicode {", "namespace {", "",
         "// clang-format off",
-        "constexpr Folding foldingrows[] = {",
-        *rows(folds, PER_LINE["foldings"]), "};",
-        "constexpr Range printablerows[] = {",
-        *rows(known, PER_LINE["printable"]), "};",
+        "constexpr auto foldingrows = std::to_array<Folding>({",
+        *rows(folds, PER_LINE["foldings"]), "});",
+        "constexpr auto printablerows = std::to_array<Range>({",
+        *rows(known, PER_LINE["printable"]), "});",
         "// clang-format on", "", "}  // namespace", "",
         "constinit const std::span<const Folding> foldings = foldingrows;",
         "constinit const std::span<const Range> printable = printablerows;", "",

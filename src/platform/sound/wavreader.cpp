@@ -1,6 +1,7 @@
 #include "platform/sound/wavreader.h"
 
 #include <algorithm>
+#include <array>
 #include <bit>
 #include <cstdint>
 #include <optional>
@@ -92,10 +93,16 @@ struct Encoding {
   Decode decode;
 };
 
-constexpr Encoding encodings[] = {
-    {1, 8, unsignedbyte}, {1, 16, integer<16>}, {1, 24, integer<24>}, {1, 32, integer<32>},
-    {3, 32, single},      {3, 64, twofold},     {6, 8, alaw},         {7, 8, mulaw},
-};
+constexpr auto encodings = std::to_array<Encoding>({
+    {1, 8, unsignedbyte},
+    {1, 16, integer<16>},
+    {1, 24, integer<24>},
+    {1, 32, integer<32>},
+    {3, 32, single},
+    {3, 64, twofold},
+    {6, 8, alaw},
+    {7, 8, mulaw},
+});
 constexpr std::uint64_t extensible = 0xFFFE;  // the tag stands in a longer chunk
 
 struct Format {
@@ -111,7 +118,7 @@ const Encoding& encodingof(Bytes chunk) {
   const std::uint64_t bits = littleendian(chunk.subspan(14, 2));
   const auto* found = std::ranges::find_if(
       encodings, [&](const Encoding& known) { return known.tag == tag && known.bits == bits; });
-  if (found == std::end(encodings)) throw PlatformError("its encoding is not known");
+  if (found == encodings.end()) throw PlatformError("its encoding is not known");
   return *found;
 }
 
