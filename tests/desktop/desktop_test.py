@@ -4,22 +4,13 @@
 usage: desktop_test.py BUILD-FOLDER
 """
 
-import subprocess
 import sys
 
-from session import LIMIT, Reader, Session
+from session import LIMIT, Reader, Session, install
 
 BESIDE_THE_PROGRAM = ("duskmarch-replay", "readme.txt", "COPYING", "add-to-menu",
                       "sounds/LICENSE.txt", "sounds/menu/arrows.wav",
                       "share/applications/duskmarch.desktop")
-
-
-def install(build, folder):
-    subprocess.run(["cmake", "--install", build, "--prefix", folder], check=True,
-                   stdout=subprocess.DEVNULL)
-    missing = [name for name in BESIDE_THE_PROGRAM if not (folder / name).exists()]
-    assert not missing, f"not installed: {missing}"
-    return folder / "duskmarch"
 
 
 def choose_the_engine(reader, settings):
@@ -76,6 +67,8 @@ def main(build):
     with Session() as session:
         reader = Reader()
         program = install(build, session.folder / "package with spaces")
+        missing = [name for name in BESIDE_THE_PROGRAM if not (program.parent / name).exists()]
+        assert not missing, f"not installed: {missing}"
         game = session.start(program)
         reader.expect_window("frame", "Duskmarch")
         choose_the_engine(reader, program.parent / "progress.ini")

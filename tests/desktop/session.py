@@ -19,12 +19,19 @@ def end_with_the_test():
     ctypes.CDLL(None).prctl(1, signal.SIGTERM)  # PR_SET_PDEATHSIG
 
 
-def wait(condition, what):
-    limit = time.monotonic() + LIMIT
+def wait(condition, what, limit=LIMIT):
+    limit += time.monotonic()
     while not condition():
         if time.monotonic() > limit:
             raise AssertionError(f"in vain: {what() if callable(what) else what}")
         time.sleep(0.02)
+
+
+def install(build, folder):
+    """The program, put into a folder as players get it."""
+    subprocess.run(["cmake", "--install", build, "--prefix", folder], check=True,
+                   stdout=subprocess.DEVNULL)
+    return folder / "duskmarch"
 
 
 class Session:

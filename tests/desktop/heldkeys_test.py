@@ -1,0 +1,63 @@
+#!/usr/bin/python3
+"""Holds keys down on a private display, as a hand does: Enter and Space act once for each press.
+
+usage: heldkeys_test.py BUILD-FOLDER
+"""
+
+import subprocess
+import sys
+
+from session import LIMIT, Reader, Session, install, wait
+
+REPEATS = 12
+WELCOME = "Welcome to Duskmarch, version 0.1 testing 3, by Quorvane.  Main menu."
+
+
+class Keys:
+    """What the display tells of its keys, with every repetition."""
+
+    def __init__(self, session):
+        self.log = session.folder / "keys"
+        with open(self.log, "wb") as log:
+            session.children.append(subprocess.Popen(
+                ["stdbuf", "-oL", "xinput", "test-xi2", "--root"], stdout=log))
+        wait(lambda: self.do("key", "shift") or self.presses() > 0, "the display's key events")
+
+    def do(self, action, key):
+        subprocess.run(["xdotool", action, key], check=True, timeout=LIMIT)
+
+    def presses(self):
+        return self.log.read_bytes().count(b"(KeyPress)")
+
+    def hold(self, key):
+        before = self.presses()
+        self.do("keydown", key)
+        wait(lambda: self.presses() > before + REPEATS, f"{key} to repeat")
+        self.do("keyup", key)
+
+
+def main(build):
+    with Session() as session:
+        reader, keys = Reader(), Keys(session)
+        program = install(build, session.folder / "package")
+        (program.parent / "progress.ini").write_bytes(b" 1 \r\n 2 \r\n\r\n")
+        game = session.start(program)
+        reader.expect_window("frame", WELCOME)
+        reader.expect("Start new game", "Down")
+        reader.expect("Test mission", "Down")
+        keys.hold("Return")  # another one would close the page
+        reader.expect_focus("text", "Story")
+        reader.expect("B 4,", "Escape", "Up")
+        keys.hold("space")  # another one would lead back to the map
+        reader.expect("Move.  ", "Down")
+        keys.hold("Return")  # another one would be an answer, and cancel
+        reader.expect_window("dialog", "Choose direction")
+        reader.expect("Nightjar moves to the North.", "n", "Return")
+        before = len(reader.heard)
+        keys.hold("Down")  # every other key repeats
+        reader.wait(lambda: len(reader.heard) > before + REPEATS // 2, "Down to repeat")
+        game.terminate()
+        assert game.wait(LIMIT) == 0
+
+
+main(sys.argv[1])
