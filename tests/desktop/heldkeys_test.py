@@ -45,14 +45,17 @@ def main(build):
         reader.expect_window("frame", WELCOME)
         reader.expect("Start new game", "Down")
         reader.expect("Test mission", "Down")
-        keys.hold("Return")  # another one would close the page
-        reader.expect_focus("text", "Story")
+        reader.expect_focus("text", "Story", "Return")
         reader.expect("B 4,", "Escape", "Up")
-        keys.hold("space")  # another one would lead back to the map
+        start = len(reader.heard)
+        keys.hold("space")
         reader.expect("Move.  ", "Down")
-        keys.hold("Return")  # another one would be an answer, and cancel
+        said = [text.split(" ")[0] for text in reader.heard[start:]]
+        assert said == ["Nightjar", "Move."], said  # and not to and fro between map and list
+        keys.hold("Return")
         reader.expect_window("dialog", "Choose direction")
         reader.expect("Nightjar moves to the North.", "n", "Return")
+        assert "Canceled." not in reader.heard, reader.heard  # the box took none for its answer
         before = len(reader.heard)
         keys.hold("Down")  # every other key repeats
         reader.wait(lambda: len(reader.heard) > before + REPEATS // 2, "Down to repeat")

@@ -113,7 +113,8 @@ class Reader:
 
     def hear(self, event):
         if event.type.startswith("object:property-change"):
-            self.heard.append(str(event.any_data).strip())
+            if isinstance(event.any_data, str):  # else it only says that there is another name
+                self.heard.append(event.any_data.strip())
         elif event.type.startswith("window:activate"):
             # A title set before the window is active again, as behind a box that closes, is not
             # announced: a reader says the one it finds now.
