@@ -9,10 +9,6 @@ namespace duskmarch {
 
 namespace {
 
-int scaled(int units, double scale) {
-  return static_cast<int>(std::lround(units * scale));
-}
-
 // Four lines; they lie inward of the first corner and hold the second one.
 void paintoutline(const Rect& area, const View& view, Colour colour, Painter& painter) {
   const int line = std::max(1, static_cast<int>(view.scale));
@@ -25,14 +21,6 @@ void paintoutline(const Rect& area, const View& view, Colour colour, Painter& pa
 }
 
 }  // namespace
-
-int View::x(int unit) const {
-  return scaled(unit, scale);
-}
-
-int View::y(int unit) const {
-  return top + scaled(unit - topunit, scale);
-}
 
 void Drawing::begin(int width, int height) {
   width_ = width;

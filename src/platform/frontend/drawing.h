@@ -3,39 +3,12 @@
 
 #include <cstddef>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "platform/desktop.h"
+#include "platform/frontend/painter.h"
 
 namespace duskmarch {
-
-// Letters of a family, so many device pixels high.
-struct Lettering {
-  std::string_view family;
-  int pixels = 0;
-};
-
-// A window's way of painting, in device pixels.
-class Painter {
- public:
-  virtual ~Painter() = default;
-  virtual void fill(const Rect& area, Colour colour) = 0;
-  // `x`, `y` is the top left corner.
-  virtual void text(int x, int y, Lettering letters, Colour colour, std::string_view words) = 0;
-  virtual int width(Lettering letters, std::string_view words) = 0;
-};
-
-// How a surface's units lie on the screen.
-struct View {
-  double scale = 1;  // device pixels of a unit
-  int topunit = 0;   // the unit of the surface's top ...
-  int top = 0;       // ... and its device pixel
-  int smallest = 0;  // letters are at least so many device pixels high
-
-  int x(int unit) const;
-  int y(int unit) const;
-};
 
 class Drawing : public Canvas {
  public:

@@ -5,7 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "platform/frontend/drawing.h"
+#include "platform/desktop.h"
+#include "platform/frontend/painter.h"
 
 namespace duskmarch {
 

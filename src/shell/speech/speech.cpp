@@ -14,7 +14,7 @@ namespace {
 
 // Parts sentences as two spaces do, however the first text ends.
 void append(std::string& text, std::string_view sentence) {
-  if (!text.empty()) text.resize(text.find_last_not_of(' ') + 1);
+  while (text.ends_with(' ')) text.pop_back();
   if (!text.empty()) text += "  ";
   text += sentence;
 }
