@@ -74,7 +74,6 @@ TEST(CrashHandler, EveryCrashReplaysFromItsStart) {
   EXPECT_EXIT(crash(replayed, lines), testing::KilledBySignal(SIGSEGV), "");
   EXPECT_NE(folder.read("state"), "");
   EXPECT_EQ(again.read("state"), folder.read("state"));
-  EXPECT_EQ(again.read(crashfile), script);
 }
 
 TEST(CrashHandler, DiesOfTheSignalAndWritesOverNothingElse) {

@@ -2,6 +2,7 @@
 #include <QApplication>
 #include <QContextMenuEvent>
 #include <QDialog>
+#include <QFile>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -369,9 +370,29 @@ TEST(FrontEndTest, PlaysFromTheWelcomeToTheExit) {
     press(window, Qt::Key_Return);
   });
   player.start();
-  frontend.run(game);
+  EXPECT_TRUE(frontend.run(game));
   EXPECT_EQ(game.saidlines[1], "Good bye.");
   EXPECT_TRUE(game.ended);
+}
+
+TEST(FrontEndTest, WithoutASoundDeviceItEndsAndTheLogTellsWhy) {
+  const QTemporaryDir folder;
+  qputenv("SDL_AUDIODRIVER", "nosuch");
+  FrontEnd frontend(folder.path().toStdString());
+  Game game(frontend.desktop());
+  QTimer player;
+  QObject::connect(&player, &QTimer::timeout, [&] {
+    auto* const box = qobject_cast<QDialog*>(QApplication::activeWindow());
+    if (box == nullptr) return;
+    player.stop();
+    press(box, Qt::Key_Escape);
+  });
+  player.start();
+  EXPECT_FALSE(frontend.run(game));
+  qputenv("SDL_AUDIODRIVER", "dummy");
+  QFile log(folder.filePath("debuglog.txt"));
+  ASSERT_TRUE(log.open(QIODevice::ReadOnly));
+  EXPECT_TRUE(log.readAll().contains("The sound device cannot be started: "));
 }
 
 }  // namespace
