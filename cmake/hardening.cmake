@@ -4,7 +4,6 @@
 include(CheckCXXCompilerFlag)
 include(CheckCXXSourceCompiles)
 include(CheckLinkerFlag)
-include(CheckPIESupported)
 
 set(hardening "")
 
@@ -26,10 +25,12 @@ function(harden_linker mark flag)
   endif()
 endfunction()
 
-check_pie_supported(LANGUAGES CXX)
-if(CMAKE_CXX_LINK_PIE_SUPPORTED)
-  set(CMAKE_POSITION_INDEPENDENT_CODE ON)
-  list(APPEND hardening pie)
+# Not by CMake's own variable: that would make libraries fit for shared ones, which is slower. It
+# goes before what a target adds itself, because Qt wants that.
+check_cxx_compiler_flag(-fPIE have_fPIE)
+if(have_fPIE AND NOT WIN32)
+  string(APPEND CMAKE_CXX_FLAGS " -fPIE")
+  harden_linker(pie -pie)
 endif()
 harden_linker(relro -Wl,-z,relro)
 harden_linker(now -Wl,-z,now)
