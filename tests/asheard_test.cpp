@@ -1,0 +1,311 @@
+// What docs/asheard.md tells and no other test holds: each looks like a mistake and is meant. And
+// the tests that it names are there.
+#include <regex>
+#include <set>
+
+#include "campaignkeys.h"
+#include "ground.h"
+#include "heroturn/optionlist.h"
+#include "resolution/endturn.h"
+#include "resolution/enemies.h"
+#include "shell/startup.h"
+
+namespace duskmarch {
+namespace {
+
+std::string joined(const std::vector<std::string>& texts) {
+  std::string all;
+  for (const std::string& text : texts) all += (all.empty() ? "" : "|") + text;
+  return all;
+}
+
+// From the main menu: recruits Owl, and begins the campaign's next mission.
+void beginmission(Player& player) {
+  perform(player, 1);
+  recruit(player, 1, "Owl");
+  perform(player, 4, modifier::shift);
+}
+
+void knockout(Player& player, int side) {
+  Game& game = player.game();
+  for (Mob& mob : game.mobs) {
+    if (mob.aliance == side) mob.health = 0;
+  }
+  game.turnnumber = 99;  // nobody is still to come
+}
+
+// Ends the turn and closes the summary, then the page that may follow.
+std::string decide(Player& player) {
+  player.press(key::e, modifier::shift);
+  const Player::Events events = player.press(key::enter);
+  const auto box = std::ranges::find_if(
+      events, [](const std::string& event) { return event.starts_with("message\t"); });
+  if (player.game().focus == Focus::storylabel) player.press(key::escape);
+  return box == events.end() ? "" : box->substr(box->rfind('\t') + 1);
+}
+
+std::string win(Player& player) {
+  knockout(player, aliance::enemies);
+  return decide(player);
+}
+
+std::string lose(Player& player) {
+  knockout(player, aliance::heroes);
+  return decide(player);
+}
+
+// The stand-in's system, but for its sound device, which cannot be opened.
+class SilentSystem : public System {
+ public:
+  explicit SilentSystem(System& other) : other_(other) {}
+  std::filesystem::path programfolder() const override { return other_.programfolder(); }
+  std::uint32_t secondssincemidnight() const override { return 1; }
+  std::unique_ptr<Voice> createvoice() override { return other_.createvoice(); }
+  std::unique_ptr<JawsApi> createjaws() override { return other_.createjaws(); }
+  std::unique_ptr<SoundDevice> opensound() override { throw PlatformError("no device"); }
+  std::unique_ptr<MusicGraph> createmusic(const std::filesystem::path&) override { return nullptr; }
+  bool readerattached() const override { return true; }
+  void end() override { other_.end(); }
+
+ private:
+  System& other_;
+};
+
+std::string startwithoutsound(Player& player) {
+  ReplayDesktop& replay = player.session().replay;
+  SilentSystem system(replay.system);
+  Desktop desktop{system, replay.window, replay.summary, replay.story, replay.dialogs};
+  Game game{desktop};
+  return joined(player.during([&] { startup(game); }));
+}
+
+std::string about(Player& player) {
+  return joined(perform(player, 3)).substr(0, 30);
+}
+
+std::string thepageofmission3(Player& player) {
+  player.game().missionnumber = 2;
+  beginmission(player);
+  return player.game().storylabel;
+}
+
+std::string theendofthetestmission(Player& player) {
+  perform(player, 2);
+  player.press(key::escape);
+  knockout(player, aliance::enemies);
+  player.press(key::e, modifier::shift);
+  player.press(key::enter);
+  return player.game().storylabel;
+}
+
+std::string thetilesofthelastmission(Player& player) {
+  beginmission(player);
+  addtiletag(player.game(), 2, 2, "[Table]", 1);
+  addtiletag(player.game(), 2, 2, "[Smoke]", 3);
+  player.press(key::escape);
+  win(player);
+  perform(player, 4, modifier::shift);
+  player.press(key::escape);
+  const Spoken here = player.spokenby(key::left);
+  return here.back() + joined(player.spokenby(key::down));
+}
+
+std::string pointsafterthreevictories(Player& player) {
+  beginmission(player);
+  player.game().mob(1).earnedpoints = 1;
+  std::string points;
+  for (int mission = 1; mission <= 3; ++mission) {
+    player.press(key::escape);
+    win(player);
+    points += player.game().mob(1).upgradepoints.isset()
+                  ? std::to_string(int{player.game().mob(1).upgradepoints}) + " "
+                  : "none ";
+    perform(player, 4, modifier::shift);
+  }
+  return points;
+}
+
+std::string thehideoutafterdefeats(Player& player) {
+  beginmission(player);
+  player.press(key::escape);
+  std::string heard = lose(player);
+  perform(player, 1);
+  heard += "|" + joined(reach(player, 4));
+  player.press(key::enter, modifier::shift);
+  player.press(key::escape);
+  lose(player);
+  perform(player, 1);
+  return heard + "|" + joined(reach(player, 2));
+}
+
+std::string amissionwithoutanybody(Player& player) {
+  player.game().missionnumber = 3;
+  beginmission(player);
+  return joined(player.spokenby(key::x)) + "|" + decide(player);
+}
+
+std::string thecampaignafterthetestmission(Player& player) {
+  player.game().missionnumber = 2;
+  perform(player, 1);
+  recruit(player, 1, "Owl");
+  player.press(key::escape, modifier::shift);
+  perform(player, 2);
+  player.press(key::escape);
+  win(player);
+  return joined(reach(player, 1)) + "|" + joined(reach(player, 4));
+}
+
+std::string anewgame(Player& player) {
+  perform(player, 1);
+  recruit(player, 1, "Owl");
+  player.press(key::escape, modifier::shift);
+  perform(player, 1);
+  return joined(reach(player, 1));
+}
+
+std::string whoisselected(Player& player) {
+  perform(player, 1);
+  recruit(player, 1, "Owl");
+  player.game().missionnumber = 2;
+  recruit(player, 2, "Lynx");
+  perform(player, 4, modifier::shift);
+  player.press(key::escape);
+  const std::string cursor = joined(player.spokenby(key::up)) + joined(player.spokenby(key::left));
+  return cursor + "|" + joined(player.spokenby(key::space));
+}
+
+std::string theplaceintheorders(Player& player) {
+  Game& game = player.game();
+  arrange(game, "Vesper 2,2 20 4");
+  give(game, 1, "Dive", 1);
+  game.menuname = screen::options;
+  listoptions(game, 0);
+  player.answer("n");
+  perform(player, 1);  // Move is gone from the list now
+  player.answer("s");
+  player.press(key::enter);
+  return game.list1.front();
+}
+
+std::string ordersinanet(Player& player) {
+  arrange(player.game(), "Vesper 2,2 20 4 [Netted][Pinned]");
+  listoptions(player.game(), 0);
+  return joined(player.game().list2);
+}
+
+std::string anewcomersfight(Player& player) {
+  Game& game = player.game();
+  arrange(game, "Vesper 2,2 20 4 | Tony 2,2 16 3");
+  game.mob(2).health = 0;
+  game.mob(2).spawntime = 1;
+  game.mob(2).spawntext = "$N comes.";
+  endturn(game);
+  return game.list1.front() + "|" + joined(game.list2) + "|" + game.mob(2).action;
+}
+
+std::string plansofthekickedandthehit(Player& player) {
+  std::string plans;
+  for (const std::string entry : {"[Kick West]", "[Throw chair West]"}) {
+    Game& game = player.game();
+    game.mobcount = game.itemcount = 0;
+    arrange(game, "Vesper 2,2 20 4 plans[Fight] | Jessie 3,2 9 5 | Chair 3,2 1");
+    doenemyoption(game, 2, entry);
+    plans += described(game.mob(1)) + "|";
+  }
+  return plans;
+}
+
+std::string pointsafterareload(Player& player) {
+  beginmission(player);
+  player.game().mob(1).upgradepoints = 6;
+  player.press(key::escape);
+  win(player);
+  perform(player, 1);
+  const std::string heard = joined(perform(player, 3, modifier::shift));
+  player.press(key::escape, modifier::shift);
+  player.press(key::f9);
+  return heard + "|" + joined(reach(player, 1));
+}
+
+TEST(AsHeard, IsMeant) {
+  const struct {
+    std::string what;
+    std::string (*heard)(Player& player);
+    std::string meant;
+  } rows[] = {
+      {"no sound device", startwithoutsound,
+       "rate\t2|message\t\tUnable to start DirectSound. Check to see that your sound card is "
+       "properly installed.  Try "
+       "running ostrav.exe from your Klavern folder.  For some people, this can correct this "
+       "issue.|end"},
+      {"About", about, "I'm just testing to see if pla"},
+      {"the page of mission 3", thepageofmission3,
+       "I don't have a mission 3 yet.  For now it's just mission 2 again, and if you beat it the "
+       "game probably just crashes, haha.\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n"
+       ".  Press Escape to continue."},
+      {"the end of the test mission", theendofthetestmission,
+       "This testing mission has no exit story.\r\n\r\nUmm, to write one real quick lets just "
+       "assume Nightjar and Steelwing tie up the bad guys and chat with one of the more "
+       "influential ones who has woken up.\r\n\r\nYeah I guess that story works, just so there is "
+       "something.  Mission complete.  Press Escape to continue.\r\n\r\n"},
+      {"tables and smoke in the next mission", thetilesofthelastmission,
+       "B 1, 1 here.  Muscles.  There is a Chair here.Smokey B 2, 1 here.  Mobster Tony.  There is "
+       "an overturned table here providing cover.  There is a Table and Chair here."},
+      {"points paid again", pointsafterthreevictories, "1 10 27 "},
+      {"the hideout after defeats", thehideoutafterdefeats,
+       "Mission failed!|Begin mission 2.|Press Enter to recruit your second vigilante."},
+      {"mission 4", amissionwithoutanybody, "No enemies found|Mission complete!"},
+      {"the campaign after the test mission", thecampaignafterthetestmission,
+       "Nightjar has no upgrade points to spend.|Begin mission 1."},
+      {"a new game", anewgame, "Owl has no upgrade points to spend."},
+      {"who is selected", whoisselected,
+       "B 1, 1 here.  Muscles.  There is a Chair here.|Lynx selected at location E 3."},
+      {"the place in the orders", theplaceintheorders, "Vesper dives South, to get more distance."},
+      {"orders in a net", ordersinanet, "Move"},
+      {"a newcomer's fight", anewcomersfight,
+       "Tony comes. Location B, 2 and engaged Vesper in a fight.|Move|Target Tony|"},
+      {"plans of who is kicked and who is hit", plansofthekickedandthehit,
+       "Vesper 1,2 15 4 [Dazed][Dazed] plans[Fight]|Vesper 2,2 16 4 [Dazed][Dazed]|"},
+      {"points after a reload", pointsafterareload,
+       "Dive increased to 2 uses.|Owl has 6 upgrade points.  Press Enter to spend them."},
+  };
+  for (const auto& [what, heard, meant] : rows) {
+    Player player;
+    EXPECT_EQ(heard(player), meant) << what;
+  }
+}
+
+std::set<std::string> testnames() {
+  std::set<std::string> names;
+  const std::regex definition(R"(TEST(?:_[FP])?\((\w+),\s*(\w+))");
+  for (const auto& file : std::filesystem::recursive_directory_iterator(TEST_FOLDER)) {
+    if (file.path().extension() != ".cpp") continue;
+    std::ostringstream text;
+    text << std::ifstream(file.path()).rdbuf();
+    const std::string source = text.str();
+    for (std::sregex_iterator found(source.begin(), source.end(), definition), end; found != end;
+         ++found) {
+      names.insert((*found)[1].str() + "." + (*found)[2].str());
+    }
+  }
+  return names;
+}
+
+TEST(AsHeard, NamesTestsThatAreThere) {
+  const std::set<std::string> names = testnames();
+  const std::regex name(R"(`(\w+\.[A-Z]\w+)`)");
+  std::ifstream document(SOURCE_FOLDER "/docs/asheard.md");
+  int found = 0;
+  for (std::string line; std::getline(document, line);) {
+    const bool row = line.starts_with("| ") && line.find("as it is") == std::string::npos;
+    EXPECT_EQ(row, std::regex_search(line, name) && line.starts_with("| ")) << line;
+    for (std::sregex_iterator each(line.begin(), line.end(), name), end; each != end; ++each) {
+      EXPECT_TRUE(names.contains((*each)[1])) << (*each)[1];
+      ++found;
+    }
+  }
+  EXPECT_GT(found, 50);
+}
+
+}  // namespace
+}  // namespace duskmarch
