@@ -228,11 +228,12 @@ std::string pointsafterareload(Player& player) {
 }
 
 TEST(AsHeard, IsMeant) {
-  const struct {
+  struct Row {
     std::string what;
     std::string (*heard)(Player& player);
     std::string meant;
-  } rows[] = {
+  };
+  const std::vector<Row> rows = {
       {"no sound device", startwithoutsound,
        "rate\t2|message\t\tUnable to start DirectSound. Check to see that your sound card is "
        "properly installed.  Try "

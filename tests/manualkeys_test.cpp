@@ -34,7 +34,7 @@ std::map<std::string, int> keynames() {
 
 // What the manual writes otherwise than the table.
 std::string asinthetable(std::string entry) {
-  const std::pair<std::string, std::string> ways[] = {
+  const std::vector<std::pair<std::string, std::string>> ways = {
       {"The arrows", "Up, Down, Left, Right"},
       {"While you explore, the four arrows", "Up, Down, Left, Right"},
       {"plus and minus of the numeric keypad", "Keypad plus, Keypad minus"},
@@ -125,29 +125,29 @@ struct Screen {
   std::string name;
   void (*go)(Player& player);
 };
-const Screen menus[] = {{"main menu", [](Player& player) { player.press(key::down); }},
-                        {"creation",
-                         [](Player& player) {
-                           perform(player, 1);
-                           perform(player, 1);
-                         }},
-                        {"hideout", tothehideout},
-                        {"upgrades",
-                         [](Player& player) {
-                           tothehideout(player);
-                           player.game().mob(1).upgradepoints = 9;
-                           perform(player, 1);
-                         }},
-                        {"orders", [](Player& player) {
-                           tothemap(player);
-                           player.press(key::space);
-                         }}};
+const std::vector<Screen> menus = {{"main menu", [](Player& player) { player.press(key::down); }},
+                                   {"creation",
+                                    [](Player& player) {
+                                      perform(player, 1);
+                                      perform(player, 1);
+                                    }},
+                                   {"hideout", tothehideout},
+                                   {"upgrades",
+                                    [](Player& player) {
+                                      tothehideout(player);
+                                      player.game().mob(1).upgradepoints = 9;
+                                      perform(player, 1);
+                                    }},
+                                   {"orders", [](Player& player) {
+                                      tothemap(player);
+                                      player.press(key::space);
+                                    }}};
 const Screen map = {"map", tothemap};
-const Screen pages[] = {{"story", [](Player& player) { perform(player, 2); }},
-                        {"summary", [](Player& player) {
-                           tothemap(player);
-                           player.press(key::e, modifier::shift);
-                         }}};
+const std::vector<Screen> pages = {{"story", [](Player& player) { perform(player, 2); }},
+                                   {"summary", [](Player& player) {
+                                      tothemap(player);
+                                      player.press(key::e, modifier::shift);
+                                    }}};
 
 // The keys that do something on a screen, alone or with Shift.
 Keys keysofthegame(const Screen& screen) {
