@@ -39,6 +39,7 @@ class Abilities : public testing::TestWithParam<Case> {};
 
 TEST_P(Abilities, ChangeAndTellWhatTheirRuleSays) {
   const Case& c = GetParam();
+  SCOPED_TRACE(c.place);
   Player player;
   const auto [option, answer] = readorder(c.what);
   arrangefor(player.game(), c.before, option);
@@ -53,7 +54,8 @@ TEST_P(Abilities, ChangeAndTellWhatTheirRuleSays) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Options, Abilities, testing::ValuesIn(readcases("abilities.txt")));
+INSTANTIATE_TEST_SUITE_P(Options, Abilities, testing::ValuesIn(readcases("abilities.txt")),
+                         nameofcase);
 
 // The question for a direction, and what is refused.
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <fstream>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -11,24 +12,37 @@
 namespace duskmarch {
 
 struct Case {
+  std::string place;  // "abilities.txt line 12", for whoever looks for a case that fails
+  int line = 0;
   std::string what;
   std::string before;
   std::string told;
   std::string after;
 };
 
+// What a test is called that has one of them as its parameter.
+inline std::string nameofcase(const testing::TestParamInfo<Case>& info) {
+  return "Line" + std::to_string(info.param.line);
+}
+
 inline std::vector<Case> readcases(const std::string& file) {
   std::vector<Case> cases;
   std::ifstream lines(TEST_FOLDER "/" + file);
-  for (std::string first, told, after; std::getline(lines, first);) {
+  int number = 1;
+  for (std::string first, told, after; std::getline(lines, first); ++number) {
     if (first.empty() || first.starts_with('#')) continue;
+    const std::string place = file + " line " + std::to_string(number);
     std::getline(lines, told);
     std::getline(lines, after);
+    if (!told.starts_with("  ") || !after.starts_with("  ")) {
+      throw std::invalid_argument(place + ": two lines that begin with two spaces belong to it");
+    }
     const auto colon = first.find(": ");
     const bool nothing = colon == std::string::npos;
-    cases.push_back({nothing ? "" : first.substr(0, colon),
+    cases.push_back({place, number, nothing ? "" : first.substr(0, colon),
                      nothing ? first : first.substr(colon + 2), told == "  -" ? "" : told.substr(2),
                      after.substr(2)});
+    number += 2;
   }
   EXPECT_FALSE(cases.empty()) << file;
   return cases;

@@ -16,8 +16,10 @@ std::vector<Draw> arrangechance(Game& game, const std::string& what) {
   for (std::string word; words >> word;) {
     if (word.starts_with('[')) {
       game.tilefx[2][2] = word;
-    } else {
+    } else if (word.size() == 3 && word[1] == '=') {
       draws.push_back({word[0] - '0', word[2] - '0'});
+    } else {
+      throw std::invalid_argument("no draw and no tag: " + word);
     }
   }
   willdraw(game, draws);
@@ -26,6 +28,7 @@ std::vector<Draw> arrangechance(Game& game, const std::string& what) {
 
 TEST(EndOfTurn, EveryPhaseActsAndTells) {
   for (const Case& c : readcases("endturn.txt")) {
+    SCOPED_TRACE(c.place);
     Player player;
     Game& game = player.game();
     arrange(game, c.before);

@@ -84,6 +84,7 @@ TEST(Enemies, AGiftedEnemyWalksWithoutEngagingAndPlansEvenDazed) {
 
 TEST(Enemies, TheChosenEntryIsPerformed) {
   for (const Case& c : readcases("enemies.txt")) {
+    SCOPED_TRACE(c.place);
     Player player;
     Game& game = player.game();
     arrangewithjessie(game, c.before);

@@ -10,11 +10,32 @@
 #pragma once
 
 #include <sstream>
+#include <stdexcept>
 #include <string>
 
 #include "world/tables.h"
 
 namespace duskmarch {
+
+inline void arrangeword(Mob& mob, const std::string& word) {
+  if (word == "moved") {
+    mob.hasmoved = 1;
+  } else if (word == "acted") {
+    mob.hasacted = 1;
+  } else if (word == "engaged") {
+    mob.engaged = 1;
+  } else if (word == "gun") {
+    mob.mobtype = mobtype::gunman;
+  } else if (word.starts_with("[")) {
+    mob.status = word;
+  } else if (word.starts_with("plans[")) {
+    mob.action = word.substr(5);
+  } else if (word.starts_with("t") && word.size() == 2) {
+    mob.target = std::stoi(word.substr(1));
+  } else {
+    throw std::invalid_argument("no such word in a fight: " + word);
+  }
+}
 
 inline void arrangemob(Game& game, const std::string& name, std::istringstream& words) {
   const bool hero = name == "Vesper" || name == "Nora" || name == "Bly";
@@ -32,15 +53,8 @@ inline void arrangemob(Game& game, const std::string& name, std::istringstream& 
   mob.health = health;
   mob.maxhealth = hero ? 20 : health;
   mob.fight = fight;
-  for (std::string word; words >> word;) {
-    if (word == "moved") mob.hasmoved = 1;
-    if (word == "acted") mob.hasacted = 1;
-    if (word == "engaged") mob.engaged = 1;
-    if (word.starts_with("t")) mob.target = std::stoi(word.substr(1));
-    if (word == "gun") mob.mobtype = mobtype::gunman;
-    if (word.starts_with("[")) mob.status = word;
-    if (word.starts_with("plans")) mob.action = word.substr(5);
-  }
+  if (!words) throw std::invalid_argument("no place, health and skill: " + name);
+  for (std::string word; words >> word;) arrangeword(mob, word);
 }
 
 // On a map of 4 by 3 tiles.

@@ -11,6 +11,7 @@ namespace {
 
 TEST(Intent, AnEnemyIsDescribed) {
   for (const Case& c : readcases("intent.txt")) {
+    SCOPED_TRACE(c.place);
     Player player;
     Game& game = player.game();
     arrange(game, "Vesper 2,2 20 4 | " + c.before);

@@ -11,6 +11,7 @@ namespace {
 
 TEST(Melee, AnExchangeOfBlowsFollowsFromTheNumbersAlone) {
   for (const Case& c : readcases("melee.txt")) {
+    SCOPED_TRACE(c.place);
     Player player;
     arrange(player.game(), c.before);
     player.game().mob(1).target = 2;

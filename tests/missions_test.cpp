@@ -37,6 +37,7 @@ std::string roster(const Game& game) {
 
 TEST(Missions, BeginWithEverybodyInPlace) {
   for (const Case& c : readcases("missions.txt")) {
+    SCOPED_TRACE(c.place);
     Player player;
     Game& game = player.game();
     game.turnnumber = 9;

@@ -98,7 +98,7 @@ void commonending(Game& game) {
 
 }  // namespace
 
-void dooption(Game& game, std::string option) {
+void dooption(Game& game, std::string_view option) {
   const OptionLine line = readoption(option);
   if (line.order == nullptr) return commonending(game);
   Direction direction;

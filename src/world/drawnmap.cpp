@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "world/mapspeech.h"
+#include "world/narration.h"
 #include "world/tables.h"
 
 namespace duskmarch {
@@ -101,7 +102,7 @@ Colour colourofside(const Game& game, int slot) {
 
 std::string modifier(Hundredths amount) {
   if (amount == Hundredths{}) return "";
-  return amount > Hundredths{} ? "+" + amount.text() : amount.text();
+  return sentence({amount > Hundredths{} ? "+" : "", amount.text()});
 }
 
 void drawmob(Canvas& canvas, const Game& game, int slot) {

@@ -96,9 +96,9 @@ TEST(CueFiles, EveryFileHasItsRow) {
   std::set<std::string> rows, files;
   for (const CueRow& cue : cuetable()) rows.insert(fileof(cue));
   for (const AmbienceRow& ambience : ambiencetable()) rows.insert(fileof(ambience));
-  for (const char* folder : {"/sounds/cues", "/sounds/ambience"}) {
+  for (const std::string folder : {"/sounds/cues", "/sounds/ambience"}) {
     for (const auto& file : std::filesystem::directory_iterator(whole(folder))) {
-      files.insert(folder + ("/" + file.path().filename().string()));
+      files.insert(folder + "/" + file.path().filename().string());
     }
   }
   EXPECT_EQ(rows, files);
