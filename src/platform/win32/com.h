@@ -7,10 +7,11 @@
 
 namespace duskmarch {
 
-// Lets the thread use objects while this lives.
+// Lets the thread use objects while this lives; a thread with windows, as an apartment of its own.
 class ComThread {
  public:
-  ComThread() : entered_(SUCCEEDED(CoInitializeEx(nullptr, COINIT_MULTITHREADED))) {}
+  explicit ComThread(DWORD kind = COINIT_MULTITHREADED)
+      : entered_(SUCCEEDED(CoInitializeEx(nullptr, kind))) {}
   ComThread(const ComThread&) = delete;
   ComThread& operator=(const ComThread&) = delete;
   ~ComThread() {
