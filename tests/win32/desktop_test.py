@@ -1,0 +1,152 @@
+#!/usr/bin/python3
+"""Plays the first minutes of the packed game for Windows, by keys, under Wine.
+
+usage: desktop_test.py BUILD-FOLDER
+"""
+
+import subprocess
+import sys
+import zipfile
+
+from winesession import LIMIT, WineSession, windows_path
+
+PROMPT = "Enter N S E W to choose your direction, or leave blank to cancel."
+STORY = "Nightjar and Steelwing storm into a pool hall"
+READONLY, MULTILINE = 0x800, 0x4
+
+
+def unpack(session):
+    """The package in a folder whose name is in no code page."""
+    packages = session.folder / "packages"
+    subprocess.run(["cpack", "-G", "ZIP", "--config", session.build / "CPackConfig.cmake",
+                    "-B", packages], check=True, stdout=subprocess.DEVNULL)
+    place = session.folder / "gra żółw Ελληνικός"
+    [package] = packages.glob("duskmarch-*-windows-x86_64.zip")
+    with zipfile.ZipFile(package) as files:
+        files.extractall(place)
+    [folder] = place.iterdir()
+    for text in ("readme.txt", "COPYING.txt", "sounds/LICENSE.txt"):
+        lines = (folder / text).read_bytes().splitlines(keepends=True)
+        assert all(line.endswith(b"\r\n") for line in lines), text
+    return folder
+
+
+def choose(folder, mode):
+    (folder / "progress.ini").write_bytes(b" %d \r\n 2 \r\n\r\n" % mode)
+
+
+def settings(folder):
+    return (folder / "progress.ini").read_bytes()
+
+
+def enter_the_test_mission(game):
+    game.expect_focus("Duskmarch", "Welcome to Duskmarch")
+    game.expect_title("Start new game", "Down")
+    game.expect_title("Test mission where you control 2", "Down")
+    game.expect_title("Test mission where you control 2", "r")
+    game.expect_focus("Edit", STORY, "Return")
+
+
+def open_the_box(game):
+    game.expect_focus("Edit", "", "Return")
+    box = game.window("#32770")
+    assert box["text"] == "Choose direction", box
+    assert [part["class"] for part in box["parts"]] == ["Static", "Edit", "Button", "Button"], box
+    assert [part["text"] for part in box["parts"]] == [PROMPT, "", "OK", "Cancel"], box
+
+
+def the_reader_hears_a_turn(game, folder):
+    choose(folder, 1)
+    program = game.play(folder / "duskmarch.exe")
+    enter_the_test_mission(game)
+    page = game.focus()
+    assert page["style"] & READONLY and page["style"] & MULTILINE, page
+    game.press("Down")
+    game.expect(lambda: game.focus()["caret"] > 0, "the caret in the second line")
+    game.expect_focus("Duskmarch", "", "Escape")
+    game.expect_title("B 4,", "Up")
+    game.expect_title("Nightjar selected at location B 5.", "space")
+    game.expect_title("Move.  Moving is only allowed", "Down")
+    open_the_box(game)
+    game.expect_title("Canceled.", "Escape")
+    open_the_box(game)
+    game.press("x", "Return")
+    game.expect(lambda: (game.window("#32770") or {}).get("text") == "Duskmarch", "the message box")
+    assert [part["text"] for part in game.window("#32770")["parts"] if part["class"] == "Static"
+            and part["text"]] == ["Canceled"]
+    game.expect_focus("Duskmarch", "", "Return")
+    open_the_box(game)
+    game.expect_title("Nightjar moves to the North.", "n", "Return")
+    game.expect_focus("Edit", "", "shift+e")
+    lines = game.focus()["text"].splitlines()
+    assert "-End of turn number 1." in lines and "Nightjar moves to the North." in lines, lines
+    game.expect_title("Nightjar selected at location B 4.", "Return")
+    game.expect_title("Exit the game", "shift+Escape")
+    game.expect_title("Good bye.", "Return")
+    assert program.wait(LIMIT) == 0
+
+
+def the_voice_reads_pages_and_boxes(game, folder):
+    choose(folder, 0)
+    game.play(folder / "duskmarch.exe")
+    game.expect_said("Start new game", "Down")
+    game.press("Down", "Return")
+    game.expect_focus("Edit", STORY)
+    words = game.focus()["text"].split()
+    game.expect_said("i", "Right")
+    game.expect_said(words[1], "ctrl+Right")
+    game.expect_said(words[0], "ctrl+Left")
+    start = words[0] + " " + words[1]
+    game.expect(lambda: game.focus()["caret"] == 0, "the caret at the start")
+    before = len(game.said())
+    game.press("Left")  # which cannot move
+    game.expect(lambda: any(start in line for line in game.said()[before:]), "the line again")
+    game.press("Escape", "space")
+    game.press("Down")
+    game.hold("Return")  # which opens the box, and must not answer it
+    game.expect_focus("Edit", "")
+    assert not any("Canceled." in line for line in game.said()), game.said()
+    game.expect_said("x", "x")
+    game.expect_said("n", "n")
+    game.expect_said("n", "Left")
+    game.expect_said("OK", "Tab")
+    game.expect_said("Cancel", "Tab")
+    game.expect_said(PROMPT + "  xn", "Tab")
+    game.expect_said("xn", "BackSpace")  # selected, as ever after Tab
+    game.ask("close")  # with the box open
+
+
+def the_settings_are_locked(game, folder):
+    choose(folder, 1)
+    game.play(folder / "duskmarch.exe")
+    assert game.ask("hold " + windows_path(folder / "progress.ini"))
+    game.press("Tab")
+    game.expect_title("Start new game", "Down")  # keys go on
+    assert game.ask("letgo")
+    game.expect(lambda: settings(folder).startswith(b" 2 "), "the settings, once they can be kept")
+
+
+def the_system_shuts_down(game, folder):
+    choose(folder, 2)
+    program = game.play(folder / "duskmarch.exe")
+    game.expect_title("Start new game", "Down")
+    # The keys of mode 2 are the player's to no one: as a Ctrl, one would have emptied the title.
+    game.expect_title("Test mission where you control 2", "Down")
+    game.expect_title("Rev 1, Test mission", "bracketright")
+    assert game.ask("endsession")
+    assert program.wait(LIMIT) == 0
+
+
+def main(build):
+    with WineSession(build) as game:
+        game.run(game.build / "onscreen-tests.exe")
+        folder = unpack(game)
+        the_reader_hears_a_turn(game, folder)
+        the_voice_reads_pages_and_boxes(game, folder)
+        game.expect(lambda: game.title() is None, "the end of the program")
+        the_system_shuts_down(game, folder)
+        errors = folder / "debuglog.txt"
+        assert not errors.exists(), errors.read_text(encoding="utf-8")
+
+
+main(sys.argv[1])

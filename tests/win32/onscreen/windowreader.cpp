@@ -1,0 +1,135 @@
+// What a screen reader finds in the game's windows, and what the system does to them, for a test
+// in another process. Reads commands from standard input, a line each, and answers each with one
+// line of JSON: `state`; `close`; `endsession`; `hold FILE`, `letgo`.
+#include <cstdio>
+#include <iostream>
+#include <string>
+
+#include <fcntl.h>
+#include <io.h>
+#include <windows.h>
+
+#include "platform/win32/text.h"
+
+namespace {
+
+using duskmarch::utf8;
+
+std::string quoted(const std::wstring& text) {
+  std::string json = "\"";
+  for (const char letter : utf8(text)) {
+    if (letter == '"' || letter == '\\') json += '\\';
+    if (static_cast<unsigned char>(letter) < ' ') {
+      char code[8];
+      std::snprintf(code, sizeof code, "\\u%04x", letter);
+      json += code;
+    } else {
+      json += letter;
+    }
+  }
+  return json + '"';
+}
+
+// As a reader gets it, by message.
+std::wstring textof(HWND window) {
+  const auto size = static_cast<std::size_t>(SendMessageW(window, WM_GETTEXTLENGTH, 0, 0));
+  std::wstring text(size + 1, L'\0');
+  const LRESULT read =
+      SendMessageW(window, WM_GETTEXT, size + 1, reinterpret_cast<LPARAM>(text.data()));
+  text.resize(static_cast<std::size_t>(read));
+  return text;
+}
+
+std::wstring classof(HWND window) {
+  wchar_t name[64] = L"";
+  GetClassNameW(window, name, 64);
+  return name;
+}
+
+DWORD caretof(HWND window) {
+  DWORD start = 0;
+  DWORD end = 0;
+  SendMessageW(window, EM_GETSEL, reinterpret_cast<WPARAM>(&start), reinterpret_cast<LPARAM>(&end));
+  return end;
+}
+
+std::string described(HWND window) {
+  RECT area{};
+  RECT inner{};
+  GetWindowRect(window, &area);
+  GetClientRect(window, &inner);
+  return "{\"class\":" + quoted(classof(window)) + ",\"text\":" + quoted(textof(window)) +
+         ",\"style\":" + std::to_string(static_cast<DWORD>(GetWindowLongW(window, GWL_STYLE))) +
+         ",\"caret\":" + std::to_string(caretof(window)) + ",\"area\":[" +
+         std::to_string(area.left) + ',' + std::to_string(area.top) + ',' +
+         std::to_string(area.right) + ',' + std::to_string(area.bottom) + "],\"inner\":[" +
+         std::to_string(inner.right) + ',' + std::to_string(inner.bottom) + "]";
+}
+
+BOOL CALLBACK addchild(HWND window, LPARAM list) {
+  auto& json = *reinterpret_cast<std::string*>(list);
+  if (IsWindowVisible(window) != 0)
+    json += (json.back() == '[' ? "" : ",") + described(window) + '}';
+  return TRUE;
+}
+
+BOOL CALLBACK addtop(HWND window, LPARAM list) {
+  auto& json = *reinterpret_cast<std::string*>(list);
+  DWORD process = 0;
+  GetWindowThreadProcessId(window, &process);
+  DWORD games = 0;
+  GetWindowThreadProcessId(FindWindowW(L"Duskmarch", nullptr), &games);
+  if (process != games || IsWindowVisible(window) == 0) return TRUE;
+  json += (json.back() == '[' ? "" : ",") + described(window) + ",\"parts\":[";
+  EnumChildWindows(window, addchild, list);
+  json += "]}";
+  return TRUE;
+}
+
+std::string state() {
+  HWND game = FindWindowW(L"Duskmarch", nullptr);
+  if (game == nullptr) return "{\"windows\":[],\"focus\":null}";
+  std::string json = "{\"windows\":[";
+  EnumWindows(addtop, reinterpret_cast<LPARAM>(&json));
+  GUITHREADINFO thread{};
+  thread.cbSize = sizeof thread;
+  GetGUIThreadInfo(GetWindowThreadProcessId(game, nullptr), &thread);
+  json += "],\"focus\":";
+  return json + (thread.hwndFocus != nullptr ? described(thread.hwndFocus) + "}" : "null") + "}";
+}
+
+std::string endsession() {
+  HWND game = FindWindowW(L"Duskmarch", nullptr);
+  if (SendMessageW(game, WM_QUERYENDSESSION, 0, 0) == 0) return "false";
+  SendMessageW(game, WM_ENDSESSION, TRUE, 0);
+  return "true";
+}
+
+}  // namespace
+
+int main() {
+  _setmode(_fileno(stdin), _O_BINARY);
+  _setmode(_fileno(stdout), _O_BINARY);
+  HANDLE held = INVALID_HANDLE_VALUE;
+  std::string command;
+  while (std::getline(std::cin, command)) {
+    std::string answer = "true";
+    if (command == "state") {
+      answer = state();
+    } else if (command == "close") {
+      PostMessageW(FindWindowW(L"Duskmarch", nullptr), WM_CLOSE, 0, 0);
+    } else if (command == "endsession") {
+      answer = endsession();
+    } else if (command.rfind("hold ", 0) == 0) {
+      // As a program that lets others read and write the file, but not put another in its place.
+      held = CreateFileW(duskmarch::utf16(command.substr(5)).c_str(), GENERIC_READ,
+                         FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING, 0, nullptr);
+      answer = held != INVALID_HANDLE_VALUE ? "true" : "false";
+    } else if (command == "letgo") {
+      CloseHandle(held);
+    } else {
+      answer = "\"what?\"";
+    }
+    std::cout << answer << std::endl;
+  }
+}

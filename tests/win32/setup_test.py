@@ -1,0 +1,56 @@
+#!/usr/bin/python3
+"""Installs the game for Windows silently, over an older one too, and removes it, under Wine: the
+player's files stay.
+
+usage: setup_test.py BUILD-FOLDER
+"""
+
+import subprocess
+import sys
+
+from winesession import WineSession, windows_path
+
+LISTED = r"HKCU\Software\Microsoft\Windows\CurrentVersion\Uninstall\Duskmarch"
+OURS = {"progress.ini": b" 1 \r\n 7 \r\n\r\n", "game.sav": b"anything", "sounds/menu/mine.wav": b"",
+        "my notes.txt": b"left at the pool hall"}
+
+
+def setup_of(game):
+    packages = game.folder / "packages"
+    subprocess.run(["cpack", "-G", "External", "--config", game.build / "CPackConfig.cmake",
+                    "-B", packages], check=True, stdout=subprocess.DEVNULL)
+    [setup] = packages.glob("duskmarch-*-setup.exe")
+    return setup
+
+
+def files_in(folder):
+    return {str(path.relative_to(folder)) for path in folder.rglob("*") if path.is_file()}
+
+
+def main(build):
+    with WineSession(build) as game:
+        setup = setup_of(game)
+        place = game.folder / "żółw-Ελληνικός"
+        for _ in range(2):
+            game.run(setup, "/S", "/D=" + windows_path(place))
+            for name in ("duskmarch.exe", "duskmarch-replay.exe", "readme.txt", "COPYING.txt",
+                         "sounds/menu/arrows.wav", "uninstall.exe"):
+                assert (place / name).exists(), name
+            for name, content in OURS.items():
+                (place / name).write_bytes(content)
+        [entry] = game.prefix.rglob("Duskmarch.lnk")
+        assert game.runs("reg", "query", LISTED, "/v", "QuietUninstallString")
+        game.play(place / "duskmarch.exe")
+        game.expect_title("Start new game", "Down")
+        game.ask("close")
+        game.expect(lambda: game.title() is None, "the end of the program")
+        game.run(place / "uninstall.exe", "/S")
+        # It goes on in a copy of itself, so that it can remove itself too.
+        game.expect(lambda: files_in(place) == set(OURS), f"no more than {set(OURS)}")
+        for name, content in OURS.items():
+            assert (place / name).read_bytes() == content, name
+        game.expect(lambda: not entry.exists(), "no entry in the Start menu")
+        assert not game.runs("reg", "query", LISTED)
+
+
+main(sys.argv[1])
