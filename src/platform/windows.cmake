@@ -3,7 +3,7 @@ find_package(SampleRate REQUIRED)
 target_link_libraries(sound PRIVATE SampleRate::samplerate ole32 avrt)
 
 file(GLOB window_sources CONFIGURE_DEPENDS win32/*.cpp)
-list(FILTER window_sources EXCLUDE REGEX "/(main|console|text)\\.cpp$")
+list(FILTER window_sources EXCLUDE REGEX "/(main|console|text|files)\\.cpp$")
 add_library(win32_desktop STATIC ${window_sources})
 target_link_libraries(win32_desktop PUBLIC frontend sound win32_text
   comctl32 gdi32 imm32 ole32 oleacc)

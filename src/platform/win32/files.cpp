@@ -1,0 +1,177 @@
+#include "platform/files.h"
+
+#include <utility>
+
+#include <windows.h>
+
+#include "platform/win32/text.h"
+
+namespace duskmarch {
+
+namespace {
+
+constexpr DWORD shared = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+
+// A program that looks at every new file lets go of it soon.
+constexpr int mosttries = 25;
+constexpr DWORD betweentries = 20;  // milliseconds
+
+std::string describe(DWORD error) {
+  wchar_t words[512] = L"";
+  DWORD size = FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr,
+                              error, 0, words, 512, nullptr);
+  while (size > 0 && words[size - 1] <= L' ') --size;
+  return utf8({words, size});
+}
+
+[[noreturn]] void fail(const char* what, DWORD error = GetLastError()) {
+  throw FileError(std::string(what) + ": " + describe(error));
+}
+
+HANDLE systemhandle(std::intptr_t handle) {
+  return reinterpret_cast<HANDLE>(handle);
+}
+
+// An open file, until it is released.
+class OpenFile {
+ public:
+  OpenFile(const std::filesystem::path& file, DWORD access, DWORD creation, DWORD flags = 0)
+      : handle_(CreateFileW(file.c_str(), access, shared, nullptr, creation,
+                            FILE_ATTRIBUTE_NORMAL | flags, nullptr)) {}
+  OpenFile(OpenFile&& other) noexcept : handle_(other.release()) {}
+  OpenFile& operator=(OpenFile&& other) noexcept {
+    std::swap(handle_, other.handle_);
+    return *this;
+  }
+  ~OpenFile() {
+    if (isopen()) CloseHandle(handle_);
+  }
+
+  bool isopen() const { return handle_ != INVALID_HANDLE_VALUE; }
+  HANDLE get() const { return handle_; }
+  HANDLE release() { return std::exchange(handle_, INVALID_HANDLE_VALUE); }
+
+ private:
+  HANDLE handle_;
+};
+
+bool isregular(HANDLE file) {
+  BY_HANDLE_FILE_INFORMATION status;
+  return GetFileType(file) == FILE_TYPE_DISK && GetFileInformationByHandle(file, &status) != 0 &&
+         (status.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
+}
+
+// What the file is besides a file: 0, or the kind of thing that the system finds its content by.
+DWORD kindof(HANDLE file) {
+  FILE_ATTRIBUTE_TAG_INFO tag{};
+  if (GetFileInformationByHandleEx(file, FileAttributeTagInfo, &tag, sizeof tag) == 0) return 0;
+  return (tag.FileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0 ? tag.ReparseTag : 0;
+}
+
+std::size_t sizeofopen(HANDLE file) {
+  LARGE_INTEGER size;
+  if (GetFileSizeEx(file, &size) == 0) fail("it cannot be looked at");
+  return static_cast<std::size_t>(size.QuadPart);
+}
+
+// Looked at as it stands first, so that no link is followed. What a service keeps elsewhere, as
+// OneDrive does, is a file like any other, which has to be opened in the ordinary way.
+OpenFile openforwriting(const std::filesystem::path& file) {
+  OpenFile opened(file, GENERIC_WRITE | FILE_READ_ATTRIBUTES, OPEN_ALWAYS,
+                  FILE_FLAG_OPEN_REPARSE_POINT);
+  if (!opened.isopen()) fail("it cannot be opened for writing");
+  const DWORD kind = kindof(opened.get());
+  if (kind == IO_REPARSE_TAG_SYMLINK || kind == IO_REPARSE_TAG_MOUNT_POINT ||
+      !isregular(opened.get())) {
+    throw FileError("it is no regular file");
+  }
+  if (kind == 0) return opened;
+  opened = OpenFile(file, GENERIC_WRITE | FILE_READ_ATTRIBUTES, OPEN_EXISTING);
+  if (!opened.isopen()) fail("it cannot be opened for writing");
+  return opened;
+}
+
+// Whether a rename that failed may succeed a moment later: another program has the file open.
+bool mayyetsucceed(DWORD error, const std::filesystem::path& to) {
+  if (error == ERROR_SHARING_VIOLATION || error == ERROR_LOCK_VIOLATION) return true;
+  const DWORD attributes = GetFileAttributesW(to.c_str());
+  return error == ERROR_ACCESS_DENIED && attributes != INVALID_FILE_ATTRIBUTES &&
+         (attributes & (FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_READONLY)) == 0;
+}
+
+}  // namespace
+
+std::string readtextfile(const std::filesystem::path& file) {
+  const OpenFile opened(file, GENERIC_READ, OPEN_EXISTING);
+  if (!opened.isopen()) fail("it cannot be opened");
+  if (!isregular(opened.get())) throw FileError("it is no regular file");
+  const std::size_t size = sizeofopen(opened.get());
+  if (size > largesttextfile) throw FileError("it is larger than a file of the game");
+  std::string text(size, '\0');
+  DWORD done = 0;
+  if (ReadFile(opened.get(), text.data(), static_cast<DWORD>(size), &done, nullptr) == 0) {
+    fail("it cannot be read");
+  }
+  text.resize(done);  // it may have been cut short meanwhile
+  return text;
+}
+
+FileWriter::FileWriter(const std::filesystem::path& file, Start start) : file_(file) {
+  OpenFile opened = openforwriting(file);
+  if (start == Start::anew && SetEndOfFile(opened.get()) == 0) fail("it cannot be emptied");
+  size_ = sizeofopen(opened.get());
+  if (SetFilePointerEx(opened.get(), {}, nullptr, FILE_END) == 0) fail("it cannot be written");
+  handle_ = reinterpret_cast<std::intptr_t>(opened.release());
+}
+
+FileWriter::~FileWriter() {
+  if (systemhandle(handle_) != INVALID_HANDLE_VALUE) CloseHandle(systemhandle(handle_));
+}
+
+void FileWriter::write(std::string_view text) {
+  while (!text.empty()) {
+    DWORD count = 0;
+    if (WriteFile(systemhandle(handle_), text.data(), static_cast<DWORD>(text.size()), &count,
+                  nullptr) == 0) {
+      fail("it cannot be written");
+    }
+    size_ += count;
+    text.remove_prefix(count);
+  }
+}
+
+void FileWriter::synchronize() {
+  if (FlushFileBuffers(systemhandle(handle_)) == 0) fail("it cannot be kept on the disk");
+}
+
+void FileWriter::close() {
+  const auto closed = reinterpret_cast<std::intptr_t>(INVALID_HANDLE_VALUE);
+  if (CloseHandle(systemhandle(std::exchange(handle_, closed))) == 0) fail("it cannot be closed");
+}
+
+void renamefile(const std::filesystem::path& from, const std::filesystem::path& to) {
+  for (int tries = 1;; ++tries) {
+    if (MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) !=
+        0) {
+      return;
+    }
+    const DWORD error = GetLastError();
+    if (tries == mosttries || !mayyetsucceed(error, to)) fail("it cannot be renamed", error);
+    Sleep(betweentries);
+  }
+}
+
+std::optional<FileStamp> stampof(const std::filesystem::path& file) {
+  const OpenFile opened(file, FILE_READ_ATTRIBUTES, OPEN_EXISTING);
+  BY_HANDLE_FILE_INFORMATION status;
+  if (!opened.isopen() || !isregular(opened.get()) ||
+      GetFileInformationByHandle(opened.get(), &status) == 0) {
+    return std::nullopt;
+  }
+  const auto joined = [](DWORD high, DWORD low) { return (std::uint64_t{high} << 32U) | low; };
+  return FileStamp{joined(status.nFileSizeHigh, status.nFileSizeLow),
+                   static_cast<std::int64_t>(joined(status.ftLastWriteTime.dwHighDateTime,
+                                                    status.ftLastWriteTime.dwLowDateTime))};
+}
+
+}  // namespace duskmarch
