@@ -5,6 +5,6 @@ function(program_resources program description)
   configure_file(${CMAKE_SOURCE_DIR}/src/platform/win32/program.rc.in ${file} @ONLY)
   set_source_files_properties(${file} PROPERTIES
     INCLUDE_DIRECTORIES ${CMAKE_SOURCE_DIR}/src
-    OBJECT_DEPENDS "${CMAKE_SOURCE_DIR}/packaging/windows/duskmarch.ico;${CMAKE_SOURCE_DIR}/src/platform/win32/program.manifest")
+    OBJECT_DEPENDS "${CMAKE_SOURCE_DIR}/packaging/duskmarch.ico;${CMAKE_SOURCE_DIR}/src/platform/win32/program.manifest")
   target_sources(${program} PRIVATE ${file})
 endfunction()

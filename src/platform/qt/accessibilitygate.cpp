@@ -78,7 +78,9 @@ void AccessibilityGate::wait(std::chrono::milliseconds limit) {
     if (!asking_ || open_) loop.quit();
   });
   watch.start(5ms);
-  QTimer::singleShot(limit, &loop, &QEventLoop::quit);
+  QTimer end;
+  QObject::connect(&end, &QTimer::timeout, &loop, &QEventLoop::quit);
+  end.start(limit);
   loop.exec();
 }
 

@@ -13,7 +13,7 @@ constexpr float inaudible = 1e-5F;
 
 }  // namespace
 
-SpeechStream::SpeechStream() : ring_(std::make_unique<float[]>(ringsize)) {}
+SpeechStream::SpeechStream() : ring_(ringsize) {}
 
 SpeechStream::Turn SpeechStream::cut() {
   const std::lock_guard guard(writing_);

@@ -5,7 +5,7 @@
 #include <atomic>
 #include <cstddef>
 #include <cstdint>
-#include <memory>
+#include <vector>
 #include <mutex>
 #include <optional>
 #include <span>
@@ -42,7 +42,7 @@ class SpeechStream final : public AudioSource {
 
   std::mutex writing_;  // never taken by mix()
   std::atomic<Turn> turn_ = 0;
-  std::unique_ptr<float[]> ring_;
+  std::vector<float> ring_;
   // Counted since the beginning; a count's place in the ring is its remainder by ringsize.
   std::atomic<std::uint64_t> written_ = 0;
   std::atomic<std::uint64_t> dropped_ = 0;  // what lies before was cut off
