@@ -1,5 +1,6 @@
 #include "platform/files.h"
 
+#include <array>
 #include <utility>
 
 #include <windows.h>
@@ -17,11 +18,11 @@ constexpr int mosttries = 25;
 constexpr DWORD betweentries = 20;  // milliseconds
 
 std::string describe(DWORD error) {
-  wchar_t words[512] = L"";
+  std::array<wchar_t, 512> words{};
   DWORD size = FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr,
-                              error, 0, words, 512, nullptr);
+                              error, 0, words.data(), static_cast<DWORD>(words.size()), nullptr);
   while (size > 0 && words[size - 1] <= L' ') --size;
-  return utf8({words, size});
+  return utf8({words.data(), size});
 }
 
 [[noreturn]] void fail(const char* what, DWORD error = GetLastError()) {

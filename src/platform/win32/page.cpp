@@ -1,5 +1,6 @@
 #include "platform/win32/page.h"
 
+#include <algorithm>
 #include <utility>
 
 #include <commctrl.h>

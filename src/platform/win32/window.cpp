@@ -266,9 +266,9 @@ LRESULT Win32Window::handle(UINT message, WPARAM first, LPARAM second) {
 void Win32Window::paint() {
   if (game_ != nullptr && std::exchange(stale_, false)) duskmarch::repaint(*game_);
   PAINTSTRUCT painted;
-  const HDC screen = BeginPaint(handle_, &painted);
+  HDC screen = BeginPaint(handle_, &painted);
   if (const SIZE size = innersize(handle_); size.cx > 0 && size.cy > 0) {
-    const HDC context = buffer_.context(screen, size);
+    HDC context = buffer_.context(screen, size);
     GdiPainter painter(context, fonts_);
     picture_.paint(painter);
     BitBlt(screen, 0, 0, size.cx, size.cy, context, 0, 0, SRCCOPY);
