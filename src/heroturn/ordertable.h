@@ -63,7 +63,7 @@ struct Order {
   bool travels = false;  // the hero itself goes there, and must not leave the map
   bool waysout = false;  // may get somebody out of a fight that holds him
   Spends spends = Spends::theaction;
-  void (*perform)(const Deed& deed) = nullptr;
+  void (&perform)(const Deed& deed);  // no row without it
   std::string_view description = {};  // of the ability, in the row of the same name
 };
 
@@ -242,15 +242,16 @@ inline constexpr auto learnableorders = [] {
 
 // Rows that do not fit together do not compile.
 namespace ordercheck {
-constexpr bool complete(const Order& row) {
-  return !row.name.empty() && row.perform != nullptr && findorder(row.name) == &row &&
-         (!row.travels || row.asks == Asks::direction) &&
-         (row.upon == nullptr || row.furniture.empty());
+constexpr bool consistent(const Order& row) {
+  return !row.name.empty() && std::ranges::count(orders, row.name, &Order::name) == 1 &&
+         (!row.travels || row.asks == Asks::direction);
 }
 constexpr bool ofanability(const Order& row) {
-  const Order* const ability = findorder(row.ability);
+  const auto describes = [&](const Order& other) {
+    return describesability(other) && other.ability == row.ability;
+  };
   return row.ability.empty() ||
-         (ability != nullptr && describesability(*ability) && row.spends == Spends::theaction);
+         (std::ranges::any_of(orders, describes) && row.spends == Spends::theaction);
 }
 constexpr bool described(const Order& row) {
   return !learnable(row) || (row.price.second > 0 && !row.description.empty());
@@ -263,7 +264,7 @@ constexpr bool together() {
   }
   return changes == static_cast<std::size_t>(std::ranges::count_if(orders, describesability));
 }
-static_assert(std::ranges::all_of(orders, complete), "an order lacks something");
+static_assert(std::ranges::all_of(orders, consistent), "an order contradicts another or itself");
 static_assert(std::ranges::all_of(orders, ofanability), "an order has no ability's row");
 static_assert(std::ranges::all_of(orders, described), "an ability lacks price or description");
 static_assert(together(), "the orders of one ability stand apart");

@@ -284,8 +284,7 @@ void Win32Window::resized() {
 
 void Win32Window::rescaled(const RECT& area) {
   place(handle_, onscreen(area));
-  resized();
-  for (HWND page : pages_) SendMessageW(page, WM_DPICHANGED_AFTERPARENT, 0, 0);
+  resized();  // the pages are told of it by the system
 }
 
 void Win32Window::activated() {
