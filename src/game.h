@@ -149,7 +149,7 @@ struct Game {  // NOLINT(clang-analyzer-optin.performance.Padding)
 
   // Speech.
   int speechmode = speechmode::sapi;
-  int sapirate = 2;
+  int sapirate = speechrate::usual;
   std::unique_ptr<Voice> sapivoice;
   int sapiready = 0;
   std::unique_ptr<JawsApi> jawsapi;

@@ -85,6 +85,7 @@ TEST(Floors, IncludesStayOrGoDown) {
   ASSERT_GE(floors.size(), 6U) << "the list in README.md was not found";
   for (const auto& [from, to] : includes()) {
     ASSERT_NE(floorof(floors, from), 0) << from << " is on no floor";
+    ASSERT_NE(floorof(floors, to), 0) << to << " is on no floor";
     EXPECT_GE(floorof(floors, from), floorof(floors, to)) << from << " looks up to " << to;
   }
 }

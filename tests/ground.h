@@ -72,7 +72,9 @@ inline void arrange(Game& game, const std::string& ground) {
     }
     int x = 0, y = 0, health = 0;
     char comma = ',';
-    words >> x >> comma >> y >> health;
+    if (!(words >> x >> comma >> y >> health) || words >> name) {
+      throw std::invalid_argument("no place and health alone: " + part);
+    }
     newitem(game, name, x, y, health);
   }
 }

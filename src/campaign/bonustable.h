@@ -5,6 +5,8 @@
 #include <cstddef>
 #include <string_view>
 
+#include "heroturn/ordertable.h"
+
 namespace duskmarch {
 
 inline constexpr int bonuschoices = 3;
@@ -12,7 +14,7 @@ inline constexpr int bonuschoices = 3;
 struct Bonus {
   std::string_view name;
   std::string_view description;
-  std::array<std::string_view, 2> abilities;  // one use of each
+  std::array<AbilityName, 2> abilities;  // one use of each
 };
 
 struct BonusGroup {

@@ -20,16 +20,6 @@ void knockover(Mob& victim) {
   victim.action.clear();
 }
 
-// The first enemy in line between the hero and the edge of the map; null when there is none.
-Mob* firstenemy(Game& game, const Mob& hero, const Direction& direction) {
-  const int reach = tilestotheedge(game, tileof(hero), direction);
-  for (int tiles = 1; tiles <= reach; ++tiles) {
-    const auto enemies = standingon(game, step(tileof(hero), direction, tiles), aliance::enemies);
-    if (!enemies.empty()) return &*enemies.begin();
-  }
-  return nullptr;
-}
-
 }  // namespace
 
 void order::fliptable(const Deed& deed) {
@@ -65,7 +55,7 @@ void order::throwchair(const Deed& deed) {
   const auto& [game, hero, other, chair, direction] = deed;
   std::string line =
       sentence({hero.mobname, " grabs a chair and hurls it ", direction.word, ".  "});
-  if (Mob* const victim = firstenemy(game, hero, direction)) {
+  if (Mob* const victim = firstinline(game, tileof(hero), direction, aliance::enemies)) {
     victim->health -= chairdamage;
     knockover(*victim);
     line += sentence({victim->mobname, " was hit by it and suffered ", std::to_string(chairdamage),

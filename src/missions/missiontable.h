@@ -6,12 +6,13 @@
 #include <span>
 #include <string_view>
 
+#include "heroturn/ordertable.h"
 #include "world/tables.h"
 
 namespace duskmarch {
 
 struct AbilityUses {
-  std::string_view ability;
+  AbilityName ability;
   int uses = 0;
 };
 

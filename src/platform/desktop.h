@@ -112,11 +112,18 @@ class Dialogs {
   virtual void message(std::string_view title, std::string_view text) = 0;
 };
 
+// How fast the voice speaks.
+namespace speechrate {
+inline constexpr int slowest = 1;
+inline constexpr int fastest = 10;
+inline constexpr int usual = 2;
+}  // namespace speechrate
+
 // The voice that the game drives itself.
 class Voice {
  public:
   virtual ~Voice() = default;
-  // 1 (slow) to 10 (fast); holds from the next text on.
+  // speechrate::slowest to speechrate::fastest; holds from the next text on.
   virtual void setrate(int rate) = 0;
   // Cuts off what is being said and starts `text`; an empty text only cuts off.
   virtual void speak(std::string_view text) = 0;

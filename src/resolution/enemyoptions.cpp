@@ -48,10 +48,9 @@ Mob* herotothrow(Game& game, const Mob& thrower, std::string_view name) {
   return named;
 }
 
-void throwhero(Game& game, int t, Mob& thrown, const Direction& direction) {
-  const Mob& thrower = game.mob(t);
+void throwhero(const Deed& deed) {
+  const auto& [game, thrower, thrown, item, direction] = deed;
   const Tile landing = step(tileof(thrower), direction);
-  useup(game, t, "Throw", 1);
   std::vector<std::string> knockedover;
   for (Mob& hero : standingon(game, landing, aliance::heroes)) {
     daze(hero);
@@ -67,13 +66,9 @@ void throwhero(Game& game, int t, Mob& thrown, const Direction& direction) {
                                joinnames(knockedover, crashed)}));
 }
 
-void throwtable(Game& game, int t, const Direction& direction) {
-  const Mob& thrower = game.mob(t);
-  const int slot = finditem(game, thrower.mobx, thrower.moby, "Table");
-  if (slot == 0) return;
-  Item& table = game.item(slot);
+void throwtable(const Deed& deed) {
+  const auto& [game, thrower, nobody, table, direction] = deed;
   const Tile landing = step(tileof(thrower), direction);
-  useup(game, t, "Throw", 1);
   std::vector<std::string> knockedover;
   std::vector<std::string> knockedout;
   for (Mob& hero : standingon(game, landing, aliance::heroes)) {
@@ -92,12 +87,11 @@ void throwtable(Game& game, int t, const Direction& direction) {
            onthemap(table) ? "" : "The table has splintered into scraps of wood.  "}));
 }
 
-void kick(Game& game, int t, const Direction& direction) {
-  Mob& kicker = game.mob(t);
+void kick(const Deed& deed) {
+  const auto& [game, kicker, nobody, item, direction] = deed;
   const Tile attacked = step(tileof(kicker), direction);
   Mob* kicked = nullptr;
   for (Mob& hero : standingon(game, attacked, aliance::heroes)) kicked = &hero;
-  useup(game, t, "Kick", 1);
   place(kicker, keptonthemap(game, attacked));
   const std::string kicks =
       sentence({kicker.mobname, " jump kicked to the ", direction.word, ", "});
@@ -115,29 +109,16 @@ void kick(Game& game, int t, const Direction& direction) {
                       conscious(hero) ? " damage.  " : " damage and was knocked unconscious.  "}));
 }
 
-// The first hero in line from a mob to the edge of the map; null for none.
-Mob* firstheroinline(Game& game, const Mob& mob, const Direction& direction) {
-  const int tiles = tilestotheedge(game, tileof(mob), direction);
-  for (int away = 1; away <= tiles; ++away) {
-    const auto heroes = standingon(game, step(tileof(mob), direction, away), aliance::heroes);
-    if (!heroes.empty()) return &*heroes.begin();
-  }
-  return nullptr;
-}
-
-void throwchair(Game& game, int t, const Direction& direction) {
-  const Mob& thrower = game.mob(t);
-  const int slot = finditem(game, thrower.mobx, thrower.moby, "Chair");
-  if (slot == 0) return;
-  useup(game, t, "Throw", 1);
+void throwchair(const Deed& deed) {
+  const auto& [game, thrower, nobody, chair, direction] = deed;
   std::string report =
       sentence({thrower.mobname, " grabs a chair and hurls it ", direction.word, ".  "});
-  if (Mob* const victim = firstheroinline(game, thrower, direction)) {
+  if (Mob* const victim = firstinline(game, tileof(thrower), direction, aliance::heroes)) {
     Mob& hero = *victim;
     hero.health -= chairdamage;
     daze(hero);
     hero.action.clear();
-    crash(game.item(slot), tileof(hero));
+    crash(chair, tileof(hero));
     report += sentence(
         {hero.mobname, " was hit by it and suffered ", std::to_string(chairdamage), " damage.  "});
     if (!conscious(hero)) report += hero.mobname + " was knocked unconscious by the impact.  ";
@@ -191,18 +172,17 @@ void listpersonthrows(Game& game, const Mob& enemy, const Offer& offer) {
 struct EnemyOrder {
   std::string_view order;  // its name in the table of orders
   void (*listentries)(Game& game, const Mob& enemy, const Offer& offer);
-  // For an order upon nobody; who is thrown is found by name.
-  void (*perform)(Game& game, int t, const Direction& direction) = nullptr;
+  void (*perform)(const Deed& deed);  // by then the row of its name is paid
 };
 constexpr std::string_view personthrow = "Throw";
 constexpr std::array enemyorders{
     EnemyOrder{"Kick", listkicks, kick},
     EnemyOrder{"Throw chair", listchairthrows, throwchair},
     EnemyOrder{"Throw table", listtablethrows, throwtable},
-    EnemyOrder{personthrow, listpersonthrows},
+    EnemyOrder{personthrow, listpersonthrows, throwhero},
 };
 static_assert(std::ranges::all_of(enemyorders, [](const EnemyOrder& row) {
-  return findorder(row.order) != nullptr;
+  return std::ranges::count(orders, row.order, &Order::name) == 1;
 }));
 
 // Whom an entry such as "Throw Vesper" would throw; null for another entry or when he is gone.
@@ -210,6 +190,22 @@ Mob* thrownby(Game& game, const Mob& thrower, std::string_view option) {
   if (!option.starts_with(personthrow)) return nullptr;
   option.remove_prefix(personthrow.size());
   return option.starts_with(' ') ? herotothrow(game, thrower, option.substr(1)) : nullptr;
+}
+
+// Nothing happens, and nothing is spent, when whom or what it takes is gone.
+void perform(Game& game, int t, const Chosen& chosen) {
+  Mob& enemy = game.mob(t);
+  Mob* const thrown = thrownby(game, enemy, chosen.option);
+  const auto* const row = std::ranges::find(
+      enemyorders, thrown == nullptr ? chosen.option : personthrow, &EnemyOrder::order);
+  if (row == enemyorders.end() || (row->order == personthrow && thrown == nullptr)) return;
+  const Order& order = *findorder(row->order);
+  const int piece =
+      order.furniture.empty() ? 0 : finditem(game, enemy.mobx, enemy.moby, order.furniture);
+  if (!order.furniture.empty() && piece == 0) return;
+  useup(game, t, order.ability, 1);
+  Mob& other = thrown == nullptr ? game.mob(0) : *thrown;
+  row->perform({game, enemy, other, game.item(piece), *chosen.direction});
 }
 
 }  // namespace
@@ -223,14 +219,7 @@ void listentries(Game& game, int t) {
 }
 
 void doenemyoption(Game& game, int t, const std::string& entry) {
-  if (const auto [option, direction] = readentry(entry); direction != nullptr) {
-    const auto* const row = std::ranges::find(enemyorders, option, &EnemyOrder::order);
-    if (Mob* const hero = thrownby(game, game.mob(t), option)) {
-      throwhero(game, t, *hero, *direction);
-    } else if (row != enemyorders.end() && row->perform != nullptr) {
-      row->perform(game, t, *direction);
-    }
-  }
+  if (const Chosen chosen = readentry(entry); chosen.direction != nullptr) perform(game, t, chosen);
   // Not before: the entry may be this very action.
   game.mob(t).action.clear();
 }

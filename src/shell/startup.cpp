@@ -35,7 +35,7 @@ void reportearliercrash(const Game& game) {
 
 void startspeech(Game& game) {
   setupsapi(game);
-  game.sapirate = 2;
+  game.sapirate = speechrate::usual;
   giverate(game);
   loadjaws(game);
 }

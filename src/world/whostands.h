@@ -103,6 +103,15 @@ auto standingon(AnyGame& game, Tile tile, int side) {
     return conscious(mob) && mob.aliance == side && at(mob, tile);
   });
 }
+// The first conscious mob of a side in line from a tile to the edge of the map; null for none.
+inline Mob* firstinline(Game& game, Tile from, const Direction& direction, int side) {
+  const int reach = tilestotheedge(game, from, direction);
+  for (int tiles = 1; tiles <= reach; ++tiles) {
+    const auto here = standingon(game, step(from, direction, tiles), side);
+    if (!here.empty()) return &*here.begin();
+  }
+  return nullptr;
+}
 // Everyone of a name, conscious or not.
 template <typename AnyGame>
 auto namesakes(AnyGame& game, std::string_view name) {

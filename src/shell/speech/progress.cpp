@@ -69,8 +69,8 @@ void readprogress(Game& game) {
     return;
   }
   lines.resize(std::max<std::size_t>(lines.size(), 3));
-  game.speechmode = setting(lines[0], 0, 3).value_or(game.speechmode);
-  if (const auto rate = setting(lines[1], 1, 10)) {
+  game.speechmode = setting(lines[0], 0, speechmode::count - 1).value_or(game.speechmode);
+  if (const auto rate = setting(lines[1], speechrate::slowest, speechrate::fastest)) {
     game.sapirate = *rate;
     giverate(game);
   }

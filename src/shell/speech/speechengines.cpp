@@ -104,7 +104,8 @@ void readbyjaws(Game& game, std::string_view text, Saying saying) {
 
 // By `speechmode`.
 constexpr std::array<SpeechEngine, speechmode::count> engines = {{
-    {.sound = "/sounds/Menu/SAPI.wav",
+    {.mode = speechmode::sapi,
+     .sound = "/sounds/Menu/SAPI.wav",
      .resttitle = true,
      .speaksprompts = true,
      .there = always,
@@ -114,21 +115,24 @@ constexpr std::array<SpeechEngine, speechmode::count> engines = {{
      .read = readbyvoice,
      .silence = hushvoice,
      .keypressed = nothing},
-    {.sound = "/sounds/Menu/NVDA.wav",
+    {.mode = speechmode::nvda,
+     .sound = "/sounds/Menu/NVDA.wav",
      .there = always,
      .fallback = speechmode::nvda,
      .whenmissing = "",
      .speak = speakbytitle,
      .silence = nothing,
      .keypressed = nothing},
-    {.sound = "/sounds/Menu/WE.wav",
+    {.mode = speechmode::windoweyes,
+     .sound = "/sounds/Menu/WE.wav",
      .there = always,
      .fallback = speechmode::windoweyes,
      .whenmissing = "",
      .speak = speakbytitleandkeys,
      .silence = nothing,
      .keypressed = nothing},
-    {.sound = "/sounds/Menu/JAWS.wav",
+    {.mode = speechmode::jaws,
+     .sound = "/sounds/Menu/JAWS.wav",
      .resttitle = true,
      .there = jawsthere,
      .fallback = speechmode::sapi,
@@ -138,6 +142,14 @@ constexpr std::array<SpeechEngine, speechmode::count> engines = {{
      .silence = interruptjaws,
      .keypressed = interruptjaws},
 }};
+static_assert(
+    [] {
+      for (int mode = 0; mode < speechmode::count; ++mode) {
+        if (engines.at(static_cast<std::size_t>(mode)).mode != mode) return false;
+      }
+      return true;
+    }(),
+    "the rows stand by their modes");
 
 }  // namespace
 

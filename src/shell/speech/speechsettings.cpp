@@ -45,7 +45,7 @@ void switchengine(Game& game) {
 }
 
 void changerate(Game& game, int step) {
-  game.sapirate = std::clamp(game.sapirate + step, 1, 10);
+  game.sapirate = std::clamp(game.sapirate + step, speechrate::slowest, speechrate::fastest);
   giverate(game);
   keepsettings(game);
   sayit(game, "Sapi rate changed to " + std::to_string(game.sapirate) + ".");
