@@ -46,6 +46,7 @@ TEST(Creation, ANameIsNeitherAPlanNorFurniture) {
   } cases[] = {
       {"[Shoot,1,1]", "Shoot,1,1", "Name set to Shoot,1,1"},
       {"O\twl\x7f\x01", "Owl", "Name set to Owl"},
+      {"\u0085Z\u009b\u00a0\u00e9", "Z\u00a0\u00e9", "Name set to Z\u00a0\u00e9"},
       {" [ ]", "PersonMan", "Canceled."},
       {"c[h]AIR", "PersonMan", "This name cannot be used."},
       {"Table", "PersonMan", "This name cannot be used."},

@@ -90,6 +90,10 @@ TEST_F(SavedGame, AnEarlierOneIsKeptByWhetherItIsWhole) {
     EXPECT_EQ(content("game.sav.damaged"), damaged);
     EXPECT_EQ(content("game.sav.bak"), "oldest");
   }
+  // What a save left that was cut short takes no place from what a hand may still repair.
+  player.folder().write("game.sav", "cut");
+  save();
+  EXPECT_EQ(content("game.sav.damaged"), lastbytegone);
   player.folder().write("game.sav", whole);
   save();
   EXPECT_EQ(content("game.sav.bak"), whole);

@@ -46,12 +46,15 @@ void speakname(Game& game) {
 }
 
 // A name is one word and one line of the saved game, and no bracket in it passes for a plan.
-std::string asname(std::string text) {
-  std::erase_if(text, [](char c) {
-    const auto byte = static_cast<unsigned char>(c);
-    return byte <= ' ' || byte == 0x7F || c == '[' || c == ']';
-  });
-  return text;
+std::string asname(std::string_view text) {
+  std::string name;
+  for (std::size_t at = 0; at < text.size(); at += codepointsize(text, at)) {
+    const char32_t letter = codepointat(text, at).value;
+    const bool control = letter < U' ' || (letter >= 0x7F && letter < 0xA0);
+    if (control || letter == U' ' || letter == U'[' || letter == U']') continue;
+    name += codepointrange(text.substr(at), 0, 1);
+  }
+  return name;
 }
 
 // Whoever bore these names would be thrown in place of the furniture.

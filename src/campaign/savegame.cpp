@@ -130,14 +130,28 @@ bool iswhole(const fs::path& file) {
   }
 }
 
+bool holdsmore(const fs::path& one, const fs::path& other) {
+  std::error_code missing;
+  const auto size = fs::file_size(one, missing);
+  if (missing) return true;  // no regular file: nothing that could be written over
+  const auto othersize = fs::file_size(other, missing);
+  return missing || size > othersize;
+}
+
+fs::path named(fs::path file, std::string_view ending) {
+  file += ending;
+  return file;
+}
+
 // Keeps the file that is about to be written anew: of what was cut short not in the place of the
-// last whole one, but where a hand may still repair it.
+// last whole one, but where a hand may still repair it. Save after save may be cut short, so the
+// one with most in it is kept.
 void setaside(const fs::path& file) {
   const fs::file_status status = fs::symlink_status(file);
   if (!fs::exists(status) || fs::is_directory(status)) return;
-  fs::path kept = file;
-  kept += iswhole(file) ? ".bak" : ".damaged";
-  renamefile(file, kept);
+  if (iswhole(file)) return renamefile(file, named(file, ".bak"));
+  const fs::path damaged = named(file, ".damaged");
+  if (holdsmore(file, damaged)) renamefile(file, damaged);
 }
 
 void write(const fs::path& path, std::string_view text) {

@@ -25,9 +25,8 @@ list(FILTER qt_sources EXCLUDE REGEX "/main\\.cpp$")
 add_library(qt_desktop STATIC ${qt_sources})
 target_compile_definitions(qt_desktop PUBLIC QT_NO_KEYWORDS)  # "signals" is a word like any other
 target_link_libraries(qt_desktop PUBLIC frontend sound voice Qt6::Widgets Qt6::DBus)
-add_executable(duskmarch qt/main.cpp)
-qt_add_resources(duskmarch icon PREFIX / BASE ${CMAKE_SOURCE_DIR}/packaging
-  FILES ${CMAKE_SOURCE_DIR}/packaging/duskmarch.ico)
+qt_add_resources(icon_sources ${CMAKE_SOURCE_DIR}/packaging/duskmarch.qrc)
+add_executable(duskmarch qt/main.cpp ${icon_sources})
 target_link_libraries(duskmarch PRIVATE qt_desktop)
 add_dependencies(duskmarch sounds)
 install(TARGETS duskmarch DESTINATION .)

@@ -30,6 +30,8 @@ TEST(HeldKeys, AReleaseAndAPressInOneMomentAreNoPress) {
   EXPECT_FALSE(keys.repeats(36, 1006, false));
   EXPECT_FALSE(keys.repeats(65, 1000, false));
   EXPECT_TRUE(keys.repeats(65, 5000, true));
+  keys.released(36, 0);  // by a program that presses keys without a time
+  EXPECT_FALSE(keys.repeats(36, 0, false));
 }
 
 TEST(Difference, IsWhatWasTypedOrTakenAway) {

@@ -15,7 +15,8 @@ void HeldKeys::released(std::uint32_t key, std::uint64_t time) {
 }
 
 bool HeldKeys::repeats(std::uint32_t key, std::uint64_t time, bool flagged) const {
-  return flagged || (key == lastreleased_ && time - releasetime_ < tooquick);
+  // Keys without a time come from programs that press them for their user.
+  return flagged || (time != 0 && key == lastreleased_ && time - releasetime_ < tooquick);
 }
 
 }  // namespace duskmarch
