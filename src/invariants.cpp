@@ -58,7 +58,8 @@ std::string brokenscreen(const Game& game) {
   if (!within(game.cursormode, 0, 1)) return "cursormode is neither 0 nor 1";
   if (!within(game.reviewpos, 0, SaidLines::oldest)) return "reviewpos is out of range";
   if (!within(game.speechmode, 0, speechmode::count - 1)) return "there is no such speech mode";
-  if (!within(game.sapirate, speechrate::slowest, speechrate::fastest)) return "the rate is out of range";
+  if (!within(game.sapirate, speechrate::slowest, speechrate::fastest))
+    return "the rate is out of range";
   if (!within(game.nextbuffer, 0, soundbuffercount - 1)) return "there is no such buffer";
   return "";
 }

@@ -96,7 +96,7 @@ std::string ReplayDialogs::input(std::string_view title, std::string_view prompt
     answer = std::move(answers.front());
     answers.pop_front();
   }
-  const std::string typed = answer.value_or("");
+  std::string typed = answer.value_or("");
   for (std::size_t at = 0; game != nullptr && at < typed.size();) {
     const std::size_t size = codepointsize(typed, at);
     echotyped(*game, std::string_view(typed).substr(at, size));

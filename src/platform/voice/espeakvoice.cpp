@@ -38,7 +38,8 @@ std::span<const std::int16_t> fromfirstsound(std::span<const std::int16_t> sampl
 }  // namespace
 
 int wordsaminute(int rate) {
-  return slowest + ratestep * (std::clamp(rate, speechrate::slowest, speechrate::fastest) - speechrate::slowest);
+  return slowest + ratestep * (std::clamp(rate, speechrate::slowest, speechrate::fastest) -
+                               speechrate::slowest);
 }
 
 EspeakVoice::EspeakVoice(std::shared_ptr<SpeechStream> stream, SpeechLog log)

@@ -5,10 +5,10 @@
 #include <atomic>
 #include <cstddef>
 #include <cstdint>
-#include <vector>
 #include <mutex>
 #include <optional>
 #include <span>
+#include <vector>
 
 #include "platform/sound/audiosource.h"
 
