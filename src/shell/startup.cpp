@@ -54,7 +54,7 @@ bool startsound(Game& game) {
   }
   // Every buffer holds a valid sound from the start.
   for (int buffer = 0; buffer <= game.maxbuffer; ++buffer) {
-    setsound(game, buffer, "\\sounds\\menu\\arrows.wav");
+    setsound(game, buffer, R"(\sounds\menu\arrows.wav)");
   }
   return true;
 }

@@ -36,7 +36,7 @@ class Hundredths {
   friend constexpr Hundredths operator+(Hundredths a, Hundredths b) { return a += b; }
   friend constexpr Hundredths operator-(Hundredths a, Hundredths b) { return a -= b; }
   friend constexpr Hundredths operator*(Hundredths a, Hundredths b) { return a *= b; }
-  constexpr auto operator<=>(const Hundredths&) const = default;
+  constexpr auto operator<=>(const Hundredths&) const = default;  // NOLINT(modernize-use-nullptr)
 
  private:
   constexpr explicit Hundredths(std::int64_t value) : value_(value) {}
