@@ -35,8 +35,14 @@ endif()
 harden_linker(relro -Wl,-z,relro)
 harden_linker(now -Wl,-z,now)
 harden_compiler(canary -fstack-protector-strong)
-harden_compiler(clash -fstack-clash-protection)
+if(NOT WIN32)  # mingw-w64's compiler gives up on some functions
+  harden_compiler(clash -fstack-clash-protection)
+endif()
 harden_compiler(cet -fcf-protection)
+
+if(WIN32)
+  string(APPEND CMAKE_CXX_STANDARD_LIBRARIES " -lssp")  # what canaries and checks call
+endif()
 
 # The library's own checks work in optimised builds alone, and the sanitizers bring better ones.
 if(CMAKE_BUILD_TYPE STREQUAL "Release" AND NOT DUSKMARCH_SANITIZE)
