@@ -1,32 +1,10 @@
 // The files that the game writes, where something else has their names.
 #include "platform/files.h"
 
-#include <cerrno>
-
-#include <sys/resource.h>
-#include <sys/stat.h>
-#include <sys/syscall.h>
-#include <unistd.h>
-
 #include "campaign/savegame.h"
 #include "debuglog.h"
 #include "harness.h"
-#include "refusedcalls.h"
 #include "shell/speech/progress.h"
-
-// In place of the C library's.
-extern "C" int fsync(int file) {
-  if (!duskmarch::refused::synchronizing) return static_cast<int>(syscall(SYS_fsync, file));
-  errno = EIO;
-  return -1;
-}
-
-extern "C" int close(int file) {
-  const auto result = static_cast<int>(syscall(SYS_close, file));
-  if (!duskmarch::refused::closing) return result;
-  errno = EIO;
-  return -1;
-}
 
 namespace duskmarch {
 namespace {
@@ -58,7 +36,7 @@ TEST(Files, NothingElseIsWrittenOverOrWaitedFor) {
     writeall(folder.path);
     EXPECT_FALSE(fs::exists(folder.path / "nowhere")) << name;
     fs::remove(file);
-    ASSERT_EQ(mkfifo(file.c_str(), 0600), 0);
+    ASSERT_TRUE(makepipe(file));
     writeall(folder.path);
   }
 }
@@ -69,15 +47,12 @@ TEST(Files, AnEndlessOneIsRefusedAtOnce) {
     folder.write(name, "");
     fs::resize_file(folder.path / name, std::uintmax_t{300} << 20);
   }
-  rusage before{};
-  getrusage(RUSAGE_SELF, &before);
+  const std::size_t before = peakmemory();
   Player player({.folder = folder.path});
   EXPECT_EQ(player.spoken([&] { loadgame(player.game(), "game.sav"); }),
             std::vector<std::string>{"Error loading game."});
   EXPECT_NE(folder.read("debuglog.txt").find("progress.ini: it is larger"), std::string::npos);
-  rusage after{};
-  getrusage(RUSAGE_SELF, &after);
-  EXPECT_LT(after.ru_maxrss - before.ru_maxrss, 100 << 10) << "KiB";
+  EXPECT_LT(peakmemory() - before, 100 << 10) << "KiB";
   folder.write("most.txt", std::string(largesttextfile, 'x'));
   EXPECT_EQ(readtextfile(folder.path / "most.txt").size(), largesttextfile);
 }

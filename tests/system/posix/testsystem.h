@@ -14,6 +14,13 @@ inline int processid() {
   return getpid();
 }
 
+// The most memory that the process has used so far, in KiB.
+inline std::size_t peakmemory() {
+  rusage usage{};
+  getrusage(RUSAGE_SELF, &usage);
+  return static_cast<std::size_t>(usage.ru_maxrss);
+}
+
 // A soak opens a million small files; where there is a disk in memory they cost next to nothing.
 inline std::filesystem::path scratchfolder() {
   const std::filesystem::path memory = "/dev/shm";

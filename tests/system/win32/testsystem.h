@@ -7,11 +7,20 @@
 #include <stdexcept>
 
 #include <process.h>
+#include <windows.h>
+// After it.
+#include <psapi.h>
 
 namespace duskmarch {
 
 inline int processid() {
   return _getpid();
+}
+
+inline std::size_t peakmemory() {
+  PROCESS_MEMORY_COUNTERS usage{};
+  GetProcessMemoryInfo(GetCurrentProcess(), &usage, sizeof usage);
+  return usage.PeakWorkingSetSize / 1024;
 }
 
 inline std::filesystem::path scratchfolder() {
