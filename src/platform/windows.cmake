@@ -7,3 +7,10 @@ list(FILTER window_sources EXCLUDE REGEX "/(main|console|text|files)\\.cpp$")
 add_library(win32_desktop STATIC ${window_sources})
 target_link_libraries(win32_desktop PUBLIC frontend sound win32_text
   comctl32 gdi32 imm32 ole32 oleacc)
+
+add_executable(duskmarch WIN32 win32/main.cpp)
+target_link_options(duskmarch PRIVATE -municode)
+target_link_libraries(duskmarch PRIVATE win32_desktop)
+program_resources(duskmarch "Duskmarch")
+add_dependencies(duskmarch sounds)
+install(TARGETS duskmarch DESTINATION .)

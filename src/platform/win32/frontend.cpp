@@ -1,0 +1,24 @@
+#include "platform/win32/frontend.h"
+
+#include <utility>
+
+#include "shell/startup.h"
+
+namespace duskmarch {
+
+FrontEnd::FrontEnd(std::filesystem::path folder)
+    : summarylabel_(window_, L"Turn summary"),
+      storylabel_(window_, L"Story"),
+      dialogs_(window_),
+      system_(window_, std::move(folder)),
+      desktop_{system_, window_, summarylabel_, storylabel_, dialogs_} {}
+
+int FrontEnd::run(Game& game, int how) {
+  window_.attach(game);
+  startup(game);
+  if (game.ended) return 1;
+  window_.run(how);
+  return 0;
+}
+
+}  // namespace duskmarch

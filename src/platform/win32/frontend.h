@@ -1,0 +1,34 @@
+// All of the window that players use, put together.
+#pragma once
+
+#include <filesystem>
+
+#include "game.h"
+#include "platform/desktop.h"
+#include "platform/win32/dialogs.h"
+#include "platform/win32/page.h"
+#include "platform/win32/system.h"
+#include "platform/win32/window.h"
+
+namespace duskmarch {
+
+class FrontEnd {
+ public:
+  // The program's files are in `folder`.
+  explicit FrontEnd(std::filesystem::path folder);
+
+  Desktop& desktop() { return desktop_; }
+  // From the game's start-up to its end; `how` the window is shown first (SW_SHOWNORMAL ...).
+  // The program's exit status: 1 when the game could not start.
+  int run(Game& game, int how);
+
+ private:
+  Win32Window window_;
+  Win32Page summarylabel_;
+  Win32Page storylabel_;
+  Win32Dialogs dialogs_;
+  Win32System system_;
+  Desktop desktop_;
+};
+
+}  // namespace duskmarch
