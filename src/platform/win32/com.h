@@ -1,11 +1,23 @@
 // What every use of the system's objects needs: a thread that may use them, and one share of each.
 #pragma once
 
+#include <cstdio>
+#include <string>
 #include <utility>
 
 #include <windows.h>
 
+#include "platform/desktop.h"
+
 namespace duskmarch {
+
+// Throws PlatformError, with `what` and the system's number for it, where a call has failed.
+inline void check(HRESULT result, const std::string& what) {
+  if (SUCCEEDED(result)) return;
+  char code[16];
+  std::snprintf(code, sizeof code, "%08lX", static_cast<unsigned long>(result));
+  throw PlatformError(what + " (" + code + ")");
+}
 
 // Lets the thread use objects while this lives; a thread with windows, as an apartment of its own.
 class ComThread {

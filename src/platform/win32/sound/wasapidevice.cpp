@@ -1,7 +1,6 @@
 // The sound device that Windows plays on by default, shared with other programs.
 #include <algorithm>
 #include <atomic>
-#include <cstdio>
 #include <memory>
 #include <string>
 #include <thread>
@@ -23,13 +22,6 @@ namespace {
 constexpr REFERENCE_TIME buffertime = 30 * 10000;
 // How long the device may ask for nothing before the thread looks whether it is to end.
 constexpr DWORD wakeup = 100;
-
-void check(HRESULT result, const char* what) {
-  if (SUCCEEDED(result)) return;
-  char code[16];
-  std::snprintf(code, sizeof code, "%08lX", static_cast<unsigned long>(result));
-  throw PlatformError(std::string(what) + " (" + code + ")");
-}
 
 struct FreeTaskMemory {
   void operator()(void* memory) const { CoTaskMemFree(memory); }
