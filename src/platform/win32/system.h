@@ -1,0 +1,41 @@
+// The program's folder, its clock, and the engines that it can start.
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <string_view>
+
+#include "platform/desktop.h"
+#include "platform/sound/soundoutput.h"
+#include "platform/win32/window.h"
+
+namespace duskmarch {
+
+class Win32System : public System {
+ public:
+  // The program's files are in `folder`.
+  Win32System(Win32Window& window, std::filesystem::path folder);
+
+  std::filesystem::path programfolder() const override { return folder_; }
+  std::uint32_t secondssincemidnight() const override;
+  std::unique_ptr<Voice> createvoice() override;
+  std::unique_ptr<JawsApi> createjaws() override;
+  std::unique_ptr<SoundDevice> opensound() override;
+  std::unique_ptr<MusicGraph> createmusic(const std::filesystem::path& file) override;
+  // As far as the system tells: by the flag that readers set, or because somebody listens to UI
+  // Automation.
+  bool readerattached() const override;
+  void end() override { window_.end(); }
+
+ private:
+  // Writes lines to the log, each after `prefix`, from whatever thread.
+  std::function<void(std::string_view)> log(std::string_view prefix = {});
+
+  Win32Window& window_;
+  std::filesystem::path folder_;
+  SoundOutput output_;
+  std::shared_ptr<Voice> voice_;  // the game's, which stands in for JAWS
+};
+
+}  // namespace duskmarch
