@@ -8,6 +8,7 @@
 #include "heroturn/messagelog.h"
 #include "heroturn/offers.h"
 #include "resolution/enemies.h"
+#include "resolution/planentry.h"
 #include "resolution/tags.h"
 #include "values/namelist.h"
 #include "world/furniture.h"
@@ -20,32 +21,8 @@ namespace {
 
 constexpr int dazeturns = 2;  // of a hero who is kicked, thrown or hit
 
-// What an entry such as "[Throw chair North]" asks for; without a direction, nothing.
-struct Chosen {
-  std::string_view option;
-  const Direction* direction = nullptr;
-};
-
-Chosen readentry(std::string_view entry) {
-  const auto space = entry.rfind(' ');
-  if (space == std::string_view::npos || !entry.starts_with('[') || !entry.ends_with(']')) {
-    return {};
-  }
-  return {.option = entry.substr(1, space - 1),
-          .direction = finddirection(entry.substr(space + 1, entry.size() - space - 2))};
-}
-
 void daze(Mob& hero) {
   addtag(hero.status, tag::dazed, dazeturns);
-}
-
-// The hero of that name on the thrower's own tile, the last of several; null for none.
-Mob* herotothrow(Game& game, const Mob& thrower, std::string_view name) {
-  Mob* named = nullptr;
-  for (Mob& hero : standingon(game, tileof(thrower), aliance::heroes)) {
-    if (hero.mobname == name) named = &hero;
-  }
-  return named;
 }
 
 void throwhero(const Deed& deed) {
@@ -174,38 +151,29 @@ struct EnemyOrder {
   void (*listentries)(Game& game, const Mob& enemy, const Offer& offer);
   void (*perform)(const Deed& deed);  // by then the row of its name is paid
 };
-constexpr std::string_view personthrow = "Throw";
 constexpr std::array enemyorders{
-    EnemyOrder{"Kick", listkicks, kick},
-    EnemyOrder{"Throw chair", listchairthrows, throwchair},
-    EnemyOrder{"Throw table", listtablethrows, throwtable},
-    EnemyOrder{personthrow, listpersonthrows, throwhero},
+    EnemyOrder{plannedoption::kick, listkicks, kick},
+    EnemyOrder{plannedoption::throwchair, listchairthrows, throwchair},
+    EnemyOrder{plannedoption::throwtable, listtablethrows, throwtable},
+    EnemyOrder{plannedoption::throwperson, listpersonthrows, throwhero},
 };
 static_assert(std::ranges::all_of(enemyorders, [](const EnemyOrder& row) {
   return std::ranges::count(orders, row.order, &Order::name) == 1;
 }));
 
-// Whom an entry such as "Throw Vesper" would throw; null for another entry or when he is gone.
-Mob* thrownby(Game& game, const Mob& thrower, std::string_view option) {
-  if (!option.starts_with(personthrow)) return nullptr;
-  option.remove_prefix(personthrow.size());
-  return option.starts_with(' ') ? herotothrow(game, thrower, option.substr(1)) : nullptr;
-}
-
 // Nothing happens, and nothing is spent, when whom or what it takes is gone.
-void perform(Game& game, int t, const Chosen& chosen) {
+void perform(Game& game, int t, const PlanEntry& entry) {
   Mob& enemy = game.mob(t);
-  Mob* const thrown = thrownby(game, enemy, chosen.option);
+  const int thrown = thrownby(game, enemy, entry.option);
   const auto* const row = std::ranges::find(
-      enemyorders, thrown == nullptr ? chosen.option : personthrow, &EnemyOrder::order);
-  if (row == enemyorders.end() || (row->order == personthrow && thrown == nullptr)) return;
+      enemyorders, thrown == 0 ? entry.option : plannedoption::throwperson, &EnemyOrder::order);
+  if (row == enemyorders.end() || (row->order == plannedoption::throwperson && thrown == 0)) return;
   const Order& order = *findorder(row->order);
   const int piece =
       order.furniture.empty() ? 0 : finditem(game, enemy.mobx, enemy.moby, order.furniture);
   if (!order.furniture.empty() && piece == 0) return;
   useup(game, t, order.ability, 1);
-  Mob& other = thrown == nullptr ? game.mob(0) : *thrown;
-  row->perform({game, enemy, other, game.item(piece), *chosen.direction});
+  row->perform({game, enemy, game.mob(thrown), game.item(piece), *entry.direction});
 }
 
 }  // namespace
@@ -219,7 +187,7 @@ void listentries(Game& game, int t) {
 }
 
 void doenemyoption(Game& game, int t, const std::string& entry) {
-  if (const Chosen chosen = readentry(entry); chosen.direction != nullptr) perform(game, t, chosen);
+  if (const PlanEntry asked = readentry(entry); asked.direction != nullptr) perform(game, t, asked);
   // Not before: the entry may be this very action.
   game.mob(t).action.clear();
 }

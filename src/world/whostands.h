@@ -104,7 +104,9 @@ auto standingon(AnyGame& game, Tile tile, int side) {
   });
 }
 // The first conscious mob of a side in line from a tile to the edge of the map; null for none.
-inline Mob* firstinline(Game& game, Tile from, const Direction& direction, int side) {
+template <typename AnyGame>
+auto firstinline(AnyGame& game, Tile from, const Direction& direction, int side)
+    -> decltype(&game.mob(0)) {
   const int reach = tilestotheedge(game, from, direction);
   for (int tiles = 1; tiles <= reach; ++tiles) {
     const auto here = standingon(game, step(from, direction, tiles), side);
