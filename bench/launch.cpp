@@ -74,7 +74,8 @@ int game(int argc, char** argv) {
   FrontEnd frontend(QCoreApplication::applicationDirPath().toStdString());
   Desktop real = frontend.desktop();
   TimedSystem system(real.system);
-  Desktop timed{system, real.window, real.summarylabel, real.storylabel, real.dialogs};
+  Desktop timed{system,          real.window,    real.summarylabel,
+                real.storylabel, real.helplabel, real.dialogs};
   Game state(timed);
   startup(state);
   return 1;  // it said nothing

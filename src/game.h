@@ -114,7 +114,7 @@ struct SummaryText {
 };
 
 // Where key presses go.
-enum class Focus { window, summarylabel, storylabel };
+enum class Focus { window, summarylabel, storylabel, helplabel };
 
 struct KeyPress {
   int keycode = 0;  // a virtual key code, see shell/speech/keycodes.h
@@ -146,6 +146,14 @@ struct Game {  // NOLINT(clang-analyzer-optin.performance.Padding)
   bool leaving = false;           // the player has chosen to end the program
   bool ended = false;             // the program is ending; no key acts any more
   bool writefailuretold = false;  // the player knows that settings are not saved
+  bool firststart = false;        // no settings were found, and no key has been pressed since
+
+  // What the player likes, kept in comfort.ini.
+  bool fulldescriptions = true;  // orders and upgrades are said with their descriptions
+  int cuevolume = 7;             // 0 to 10
+  int ambiencevolume = 4;
+  std::string voicename;            // of the own voice; empty for the default
+  bool comfortfailuretold = false;  // the player knows that these are not saved
 
   // Speech.
   int speechmode = speechmode::sapi;
@@ -181,6 +189,10 @@ struct Game {  // NOLINT(clang-analyzer-optin.performance.Padding)
   int bonus2 = 0;
   int bonus3 = 0;
   std::string storyword;
+  bool testheroes = false;           // they stand in the places of the campaign's
+  bool missionunwon = false;         // a campaign mission was begun and not won
+  bool waybackkept = false;          // autosave.sav holds what was before it
+  bool autosavefailuretold = false;  // the player knows that progress is not kept
 
   // The mission.
   Number missionnumber;
@@ -189,6 +201,7 @@ struct Game {  // NOLINT(clang-analyzer-optin.performance.Padding)
   int turnnumber = 0;
   SummaryText summarylabel;
   std::string storylabel = "Text1";  // text of the story page
+  std::string helplabel;             // text of the help page
   std::string turnsummary;           // this turn's narration, each line after two spaces
   std::deque<std::string> list1;     // message log, newest line first
   std::vector<std::string> list2;    // the option list

@@ -74,7 +74,7 @@ class SilentSystem : public System {
 std::string startwithoutsound(Player& player) {
   ReplayDesktop& replay = player.session().replay;
   SilentSystem system(replay.system);
-  Desktop desktop{system, replay.window, replay.summary, replay.story, replay.dialogs};
+  Desktop desktop{system, replay.window, replay.summary, replay.story, replay.help, replay.dialogs};
   Game game{desktop};
   return joined(player.during([&] { startup(game); }));
 }

@@ -151,7 +151,7 @@ struct BusyPlayer {
   ProgramFolder folder;
   ReplayDesktop replay{{.folder = folder.path}};
   BusyWindow window{replay.transcript};
-  Desktop desktop{replay.system, window, replay.summary, replay.story, replay.dialogs};
+  Desktop desktop{replay.system, window, replay.summary, replay.story, replay.help, replay.dialogs};
   Game game{desktop};
 };
 

@@ -71,7 +71,6 @@ int takekey(std::string& entry, const std::map<std::string, int>& names) {
 // The keys that a sentence names before it says what they do: "Page Up and Page Down change".
 Keys keysnamedby(std::string sentence, const std::map<std::string, int>& names) {
   Keys keys;
-  sentence = asinthetable(std::move(sentence));
   for (int code = 1; code > 0;) {
     for (const std::string filler : {"Shift+", ", ", " ", "and ", "or ", "the "}) {
       if (sentence.starts_with(filler)) sentence.erase(0, filler.size());
@@ -104,7 +103,7 @@ std::vector<std::string> sentences(const std::string& heading) {
 Keys keysofthemanual(const std::string& heading, const std::map<std::string, int>& names) {
   Keys keys;
   for (const std::string& sentence : sentences(heading)) {
-    const Keys named = keysnamedby(sentence, names);
+    const Keys named = keysnamedby(asinthetable(sentence), names);
     EXPECT_FALSE(named.contains(-1)) << "docs/replay.md does not have a key of: " << sentence;
     keys.insert(named.begin(), named.end());
   }
@@ -147,7 +146,8 @@ const std::vector<Screen> pages = {{"story", [](Player& player) { perform(player
                                    {"summary", [](Player& player) {
                                       tothemap(player);
                                       player.press(key::e, modifier::shift);
-                                    }}};
+                                    }},
+                                   {"help", [](Player& player) { player.press(key::f1); }}};
 
 // The keys that do something on a screen, alone or with Shift.
 Keys keysofthegame(const Screen& screen) {
@@ -184,7 +184,7 @@ TEST(ManualKeys, AreThoseOfTheGame) {
   const Keys everywhere = keysofthemanual("Keys that work on every screen", names);
   const Keys inmenus = keysofthemanual("Keys in menus", names);
   const Keys inmissions = keysofthemanual("Keys in a mission", names);
-  const Keys onpages = keysofthemanual("Keys in the turn summary and on story pages", names);
+  const Keys onpages = keysofthemanual("Keys in the turn summary, on story pages and on help pages", names);
 
   const Keys onthemap = keysofthegame(map);
   EXPECT_TRUE(holds(onthemap, everywhere)) << listed(onthemap);
@@ -193,7 +193,7 @@ TEST(ManualKeys, AreThoseOfTheGame) {
   for (const Screen& menu : menus) {
     const Keys acting = keysofthegame(menu);
     Keys usual = inmenus;
-    usual.erase(key::f9);
+    usual.erase(key::f9);  // here and there only
     EXPECT_TRUE(holds(acting, everywhere)) << menu.name << " " << listed(acting);
     EXPECT_TRUE(holds(acting, usual)) << menu.name << " " << listed(acting);
     inthewindow.insert(acting.begin(), acting.end());
@@ -211,6 +211,61 @@ TEST(ManualKeys, AreThoseOfTheGame) {
   Keys tabled;
   for (const auto& [name, code] : names) tabled.insert(code);
   EXPECT_EQ(listed(tabled), listed(named));
+}
+
+// What the help page of a screen names before each colon.
+Keys keysofthehelp(const Screen& screen, const std::map<std::string, int>& names) {
+  Player player({.reader = false});
+  screen.go(player);
+  player.press(key::f1);
+  const std::string page = player.game().helplabel;
+  Keys keys;
+  std::istringstream lines(page.substr(0, page.find("Keys on pages")));
+  for (std::string line; std::getline(lines, line);) {
+    const auto colon = line.find(": ");
+    if (colon == std::string::npos) continue;
+    Keys named = keysnamedby(line.substr(0, colon), names);
+    EXPECT_FALSE(named.empty() || named.contains(-1)) << line;
+    keys.merge(named);
+  }
+  return keys;
+}
+
+// The letters about a mission answer in menus too, but help tells of them where they help.
+TEST(HelpPages, NameTheKeysOfTheirScreen) {
+  const auto names = keynames();
+  std::vector<Screen> screens = menus;
+  screens.push_back(map);
+  for (const Screen& screen : screens) {
+    const Keys acting = keysofthegame(screen);
+    const Keys told = keysofthehelp(screen, names);
+    EXPECT_TRUE(holds(acting, told)) << screen.name << " " << listed(told);
+    const bool mission = screen.name == "map" || screen.name == "orders";
+    const Keys elsewhere = {key::b, key::c, key::d, key::e, key::g, key::h,      key::i,  key::l,
+                            key::m, key::n, key::t, key::v, key::x, key::escape, key::f8, key::z};
+    for (const int code : acting) {
+      if (!told.contains(code)) {
+        EXPECT_TRUE(elsewhere.contains(code)) << screen.name << " does not tell of " << code;
+        EXPECT_TRUE(!mission || code == key::f8) << screen.name << " " << code;
+      }
+    }
+  }
+}
+
+TEST(HelpPages, EndWithTheKeysOfPages) {
+  const auto names = keynames();
+  Player player;
+  player.press(key::f1);
+  const std::string page = player.game().helplabel;
+  Keys told;
+  std::istringstream lines(page.substr(page.find("Keys on pages")));
+  for (std::string line; std::getline(lines, line);) {
+    if (!line.starts_with("Keys")) told.merge(keysnamedby(line.substr(0, line.find(':')), names));
+  }
+  Keys acting;
+  for (const Screen& screen : pages) acting.merge(keysofthegame(screen));
+  acting.erase(key::enter);  // told of with Escape
+  EXPECT_EQ(listed(told), listed(acting));
 }
 
 }  // namespace

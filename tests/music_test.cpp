@@ -63,7 +63,7 @@ class MusicRules : public testing::Test {
   ProgramFolder folder;
   ReplayDesktop replay{{.folder = folder.path}};
   MusicSystem system{calls};
-  Desktop desktop{system, replay.window, replay.summary, replay.story, replay.dialogs};
+  Desktop desktop{system, replay.window, replay.summary, replay.story, replay.help, replay.dialogs};
   Game game{desktop};
 };
 

@@ -1,11 +1,15 @@
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "campaign/bonustable.h"
 #include "campaign/learning.h"
+#include "campaign/savegame.h"
 #include "campaign/screens.h"
+#include "campaign/vigilantes.h"
 #include "shell/speech/pages.h"
 #include "shell/speech/speech.h"
 #include "values/utf8.h"
@@ -107,6 +111,9 @@ const Bonus& chosenbonus(Game& game, Bonuses which) {
   return bonusgroup(which).choices[static_cast<std::size_t>(choiceof(game, which) - 1)];
 }
 
+// In the order in which they are learnt.
+constexpr std::array bonusorder = {Bonuses::third, Bonuses::second, Bonuses::first};
+
 void describebonus(Game& game, const Bonus& bonus, std::string_view before,
                    std::string_view after) {
   std::string text(before);
@@ -150,11 +157,12 @@ void finish(Game& game) {
     return;
   }
   startvalues(newcomer(game));
-  for (const Bonuses which : {Bonuses::third, Bonuses::second, Bonuses::first}) {
+  for (const Bonuses which : bonusorder) {
     for (const std::string_view ability : chosenbonus(game, which).abilities) {
       learn(game, game.selected, ability);
     }
   }
+  keepchoices(game);
   sayit(game, newcomer(game).mobname + " recruited.  Back at the hideout.");
   enterscreen(game, screen::hideout);
 }
@@ -170,6 +178,22 @@ void speakcreation(Game& game) {
     case thirdbonus: return speakbonus(game, Bonuses::third);
     default: return sayit(game, "Finish character creation");
   }
+}
+
+std::string newcomerwords(Game& game) {
+  std::vector<std::string> learnt;
+  for (const Bonuses which : bonusorder) {
+    for (const std::string_view ability : chosenbonus(game, which).abilities) {
+      learnt.emplace_back(ability);
+    }
+  }
+  std::string uses;
+  for (auto ability = learnt.begin(); ability != learnt.end(); ++ability) {
+    if (std::find(learnt.begin(), ability, *ability) != ability) continue;
+    uses += (uses.empty() ? "" : ", ") + *ability + " " +
+            std::to_string(std::count(ability, learnt.end(), *ability));
+  }
+  return newcomer(game).mobname + ".  These bonuses give " + uses + ".";
 }
 
 void performcreation(Game& game, int /*shift*/) {

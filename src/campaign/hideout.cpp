@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "campaign/savegame.h"
 #include "campaign/screens.h"
 #include "missions/missions.h"
 #include "shell/speech/speech.h"
@@ -81,6 +82,8 @@ void beginmission(Game& game, int shift) {
   } else if (shift == 0) {
     sayit(game, "Hold Shift and press Enter to begin the next mission.");
   } else {
+    game.waybackkept = keepprogress(game);
+    game.missionunwon = true;
     game.missionnumber += 1;
     enterscreen(game, screen::map);
     startusout(game);

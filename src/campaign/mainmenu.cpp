@@ -19,6 +19,7 @@ void newgame(Game& game) {
 void testmission(Game& game) {
   enterscreen(game, screen::map);
   game.missionnumber = 0;
+  game.waybackkept = false;
   startusout(game);
 }
 

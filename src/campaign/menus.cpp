@@ -1,15 +1,19 @@
 #include "campaign/menus.h"
 
+#include <algorithm>
 #include <optional>
+#include <string_view>
 
 #include "audio/sounds.h"
 #include "campaign/screens.h"
 #include "shell/speech/keycodes.h"
+#include "shell/speech/speech.h"
 
 namespace duskmarch {
 namespace {
 
 struct MenuScreen {
+  std::string_view title;
   int entries = 0;
   int escapeentry = 0;  // where Escape jumps to; 0: it does not
   void (*speak)(Game& game) = nullptr;
@@ -19,14 +23,19 @@ struct MenuScreen {
 std::optional<MenuScreen> shownscreen(const Game& game) {
   switch (game.menuname) {
     case screen::mainmenu:
-      return MenuScreen{mainmenuentries, mainmenuentries, speakmainmenu, performmainmenu};
+      return MenuScreen{"Main menu.", mainmenuentries, mainmenuentries, speakmainmenu,
+                        performmainmenu};
     case screen::creation:
-      return MenuScreen{creationentries, creationentries, speakcreation, performcreation};
+      return MenuScreen{"Create your character.", creationentries, creationentries, speakcreation,
+                        performcreation};
     case screen::options:
-      return MenuScreen{static_cast<int>(game.list2.size()), 0, speakoption, performoption};
+      return MenuScreen{"Orders.", static_cast<int>(game.list2.size()), 0, speakoption,
+                        performoption};
     case screen::upgrades:
-      return MenuScreen{upgradeentries, upgradeentries, speakupgrade, performupgrade};
-    case screen::hideout: return MenuScreen{hideoutentries, 0, speakhideout, performhideout};
+      return MenuScreen{"Spend your points.", upgradeentries, upgradeentries, speakupgrade,
+                        performupgrade};
+    case screen::hideout:
+      return MenuScreen{"The hideout.", hideoutentries, 0, speakhideout, performhideout};
     default: return std::nullopt;
   }
 }
@@ -74,6 +83,22 @@ void menus(Game& game, KeyPress key) {
   } else {
     shown->speak(game);
   }
+}
+
+void gotoend(Game& game, bool last) {
+  const std::optional<MenuScreen> shown = shownscreen(game);
+  if (!shown) return;
+  playeffect(game, "/sounds/menu/arrows.wav");
+  game.menupos = last ? shown->entries : std::min(1, shown->entries);
+  shown->speak(game);
+}
+
+void sayentry(Game& game) {
+  const std::optional<MenuScreen> shown = shownscreen(game);
+  if (!shown) return;
+  if (game.menupos == 0) return sayit(game, shown->title);
+  game.menupos = within(game.menupos, shown->entries, Ends::stop);
+  shown->speak(game);
 }
 
 }  // namespace duskmarch

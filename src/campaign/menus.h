@@ -15,4 +15,9 @@ void cycleme(Game& game, int keycode, int entries, Ends ends);
 // anything else speaks the entry again.
 void menus(Game& game, KeyPress key);
 
+// Goes to the first or the last entry and speaks it, with the sound of the arrows.
+void gotoend(Game& game, bool last);
+// Speaks the entry that was reached last; the menu's name where none was.
+void sayentry(Game& game);
+
 }  // namespace duskmarch

@@ -37,7 +37,8 @@ const std::string& currentoption(const Game& game) {
 void speakoption(Game& game) {
   if (!anyoptions(game)) return;
   std::string text = currentoption(game);
-  if (const std::string_view explained = description(text); !explained.empty()) {
+  const std::string_view explained = description(text);
+  if (game.fulldescriptions && !explained.empty()) {
     text.append(".  ").append(explained);
   }
   sayit(game, text);

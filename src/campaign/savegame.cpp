@@ -161,21 +161,43 @@ void write(const fs::path& path, std::string_view text) {
   file.close();
 }
 
+// Throws what goes wrong.
+void savecampaign(Game& game, std::string_view name) {
+  const fs::path path =
+      findfile(game.programfolder, name).value_or(game.programfolder / tidyname(name));
+  setaside(path);
+  LineWriter writer;
+  campaignlines(writer, game);
+  write(path, writer.lines);
+  game.trace.saved(name, writer.lines);
+}
+
 }  // namespace
 
 void savegame(Game& game, std::string_view name) {
   try {
-    const fs::path path =
-        findfile(game.programfolder, name).value_or(game.programfolder / tidyname(name));
-    setaside(path);
-    LineWriter writer;
-    campaignlines(writer, game);
-    write(path, writer.lines);
-    game.trace.saved(name, writer.lines);
+    savecampaign(game, name);
     playeffect(game, R"(\sounds\game\saved.wav)");
   } catch (const std::exception&) {
     sayit(game, "Error saving game.");
   }
+}
+
+bool keepprogress(Game& game) {
+  if (game.testheroes) return false;
+  try {
+    savecampaign(game, autosavefile);
+    return true;
+  } catch (const std::exception&) {
+    if (!std::exchange(game.autosavefailuretold, true)) {
+      addsentence(game, "Your progress cannot be kept.");
+    }
+    return false;
+  }
+}
+
+void keepchoices(Game& game) {
+  if (!game.missionunwon) keepprogress(game);
 }
 
 void loadgame(Game& game, std::string_view name) {
@@ -191,6 +213,8 @@ void loadgame(Game& game, std::string_view name) {
     LineReader lines(splitlines(text));
     campaignlines(lines, game);
     game.missionunderway = false;
+    game.missionunwon = false;
+    game.testheroes = false;
     sayit(game, "Game loaded.");
     game.menuname = screen::hideout;
     game.menupos = 0;

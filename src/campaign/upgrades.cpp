@@ -3,6 +3,7 @@
 #include <string_view>
 
 #include "campaign/learning.h"
+#include "campaign/savegame.h"
 #include "campaign/screens.h"
 #include "heroturn/ordertable.h"
 #include "shell/speech/speech.h"
@@ -28,6 +29,12 @@ const Ability* owned(const Mob& hero, std::string_view name) {
   return nullptr;
 }
 
+// What an entry offers; and what that means, for who wants descriptions.
+struct Offered {
+  std::string text;
+  std::string_view description;
+};
+
 std::string bodytext(const Mob& hero, std::string_view value, std::string_view rise) {
   std::string text = hero.mobname;
   text.append(value).append("  For ").append(std::to_string(bodyprice));
@@ -35,37 +42,38 @@ std::string bodytext(const Mob& hero, std::string_view value, std::string_view r
   return text;
 }
 
-std::string healthtext(const Mob& hero) {
-  return bodytext(hero, " has " + std::to_string(hero.maxhealth) + " health.",
-                  " max health by 5.  Your maximum health increases which allows you to absorb "
-                  "more damage during each mission without dying.");
+Offered health(const Mob& hero) {
+  return {
+      bodytext(hero, " has " + std::to_string(hero.maxhealth) + " health.", " max health by 5."),
+      "Your maximum health increases which allows you to absorb more damage during each "
+      "mission without dying."};
 }
 
-std::string fighttext(const Mob& hero) {
-  return bodytext(hero, "'s fighting skill is " + std::to_string(hero.maxfight) + ".",
-                  " skill by 1.  Your fight level lowers as you damage opponents and regenerates "
-                  "slowly as you rest.  Having a higher value is the only way to normally harm "
-                  "the enemy.");
+Offered fight(const Mob& hero) {
+  return {
+      bodytext(hero, "'s fighting skill is " + std::to_string(hero.maxfight) + ".", " skill by 1."),
+      "Your fight level lowers as you damage opponents and regenerates slowly as you rest.  "
+      "Having a higher value is the only way to normally harm the enemy."};
 }
 
-std::string abilitytext(const Mob& hero, const Order& row) {
+Offered ability(const Mob& hero, const Order& row) {
   std::string text = "Ability " + std::string(row.name) + ".  ";
-  if (const Ability* ability = owned(hero, row.name)) {
-    const int uses = ability->abilityuses;
+  if (const Ability* known = owned(hero, row.name)) {
+    const int uses = known->abilityuses;
     text += hero.mobname + " can use this " + std::to_string(uses);
     text += uses == 1 ? " time" : " times";
     text += " per mission.  Increase this by 1 for a cost of " + std::to_string(row.price.second);
   } else {
     text += "Gain this ability for a cost of " + std::to_string(row.price.first);
   }
-  return text.append(" upgrade points.  ").append(row.description);
+  return {text + " upgrade points.", row.description};
 }
 
-std::string entrytext(const Mob& hero, int entry) {
+Offered offeredat(const Mob& hero, int entry) {
   switch (entry) {
-    case healthentry: return healthtext(hero);
-    case fightentry: return fighttext(hero);
-    default: return abilitytext(hero, abilityat(entry));
+    case healthentry: return health(hero);
+    case fightentry: return fight(hero);
+    default: return ability(hero, abilityat(entry));
   }
 }
 
@@ -80,30 +88,31 @@ int price(const Mob& hero, int entry) {
   return owned(hero, row.name) ? row.price.second : row.price.first;
 }
 
-void raisehealth(Game& game, Mob& hero) {
+std::string raisehealth(Mob& hero) {
   hero.maxhealth += 5;
   hero.health = hero.maxhealth;
-  sayit(game, "Health increased to " + std::to_string(hero.maxhealth) + ".");
+  return "Health increased to " + std::to_string(hero.maxhealth) + ".";
 }
 
-void raisefight(Game& game, Mob& hero) {
+std::string raisefight(Mob& hero) {
   hero.maxfight += 1;
   hero.fight = hero.maxfight;
-  sayit(game, "Fighting skill increased to " + std::to_string(hero.maxfight) + ".");
+  return "Fighting skill increased to " + std::to_string(hero.maxfight) + ".";
 }
 
-void raiseability(Game& game, const Mob& hero, std::string_view name) {
+std::string raiseability(Game& game, const Mob& hero, std::string_view name) {
   const bool isnew = owned(hero, name) == nullptr;
   learn(game, game.selected, name);
-  sayit(game, isnew ? "Ability gained."
-                    : std::string(name) + " increased to " +
-                          std::to_string(owned(hero, name)->abilityuses) + " uses.");
+  if (isnew) return "Ability gained.";
+  return std::string(name) + " increased to " + std::to_string(owned(hero, name)->abilityuses) +
+         " uses.";
 }
 
-void raise(Game& game, Mob& hero, int entry) {
+// What is said of it.
+std::string raise(Game& game, Mob& hero, int entry) {
   switch (entry) {
-    case healthentry: return raisehealth(game, hero);
-    case fightentry: return raisefight(game, hero);
+    case healthentry: return raisehealth(hero);
+    case fightentry: return raisefight(hero);
     default: return raiseability(game, hero, abilityat(entry).name);
   }
 }
@@ -118,7 +127,9 @@ void buy(Game& game, Mob& hero, int entry, int shift) {
     sayit(game, "Hold shift and press Enter to confirm this upgrade.");
   } else {
     hero.upgradepoints -= cost;
-    raise(game, hero, entry);
+    const std::string raised = raise(game, hero, entry);
+    keepchoices(game);
+    sayit(game, raised);
   }
 }
 
@@ -127,7 +138,10 @@ void buy(Game& game, Mob& hero, int entry, int shift) {
 void speakupgrade(Game& game) {
   if (game.menupos == closeentry) return sayit(game, "Close upgrade menu");
   const Mob& hero = game.mob(game.selected);
-  sayit(game, entrytext(hero, game.menupos) + pointstext(hero.upgradepoints));
+  const auto [text, description] = offeredat(hero, game.menupos);
+  std::string whole = text;
+  if (game.fulldescriptions) whole.append("  ").append(description);
+  sayit(game, whole + pointstext(hero.upgradepoints));
 }
 
 void performupgrade(Game& game, int shift) {

@@ -29,11 +29,14 @@ std::optional<Direction> directionanswered(std::string_view answer) {
   return std::nullopt;
 }
 
+// As a map is held: up is north.
+constexpr ArrowAnswers arrowanswers = {.left = "W", .up = "N", .right = "E", .down = "S"};
+
 // Nothing when the player called it off.
 std::optional<Direction> askdirection(Game& game) {
   static constexpr std::string_view prompt =
       "Enter N S E W to choose your direction, or leave blank to cancel.";
-  const std::string answer = inputbox(game, "Choose direction", prompt);
+  const std::string answer = directionbox(game, "Choose direction", prompt, arrowanswers);
   if (answer.empty()) {
     sayit(game, "Canceled.");
     return std::nullopt;
@@ -97,6 +100,11 @@ void commonending(Game& game) {
 }
 
 }  // namespace
+
+void dooption(Game& game, std::string_view option, const Direction& direction) {
+  const OptionLine line = readoption(option);
+  if (line.order == nullptr || perform(game, line, direction)) commonending(game);
+}
 
 void dooption(Game& game, std::string_view option) {
   const OptionLine line = readoption(option);

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "game.h"
+#include "world/directions.h"
 
 namespace duskmarch {
 
@@ -11,5 +12,7 @@ namespace duskmarch {
 // hero. Where a direction is needed the player is asked for it. A line that names no order does
 // nothing but what follows every order.
 void dooption(Game& game, std::string_view option);
+// The same with the direction known, so that nobody is asked.
+void dooption(Game& game, std::string_view option, const Direction& direction);
 
 }  // namespace duskmarch

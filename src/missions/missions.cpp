@@ -111,7 +111,10 @@ void setup(Game& game, const Mission& mission) {
   // The log puts every later line above this one.
   game.summarylabel.lines = {
       sentence({"-Mission ", std::to_string(mission.number), " begins: ", mission.objective})};
-  if (!mission.readyheroes.empty()) game.mobcount = 0;
+  if (!mission.readyheroes.empty()) {
+    game.mobcount = 0;
+    game.testheroes = true;
+  }
   for (const ReadyHero& hero : mission.readyheroes) bring(game, hero);
   showpage(game, mission.start, "");
   layout(game, mission);
@@ -120,7 +123,7 @@ void setup(Game& game, const Mission& mission) {
 // Whether somebody of a side still stands, or is yet to arrive.
 bool remains(const Game& game, int side) {
   return std::ranges::any_of(everyone(game), [&](const Mob& mob) {
-    return mob.aliance == side && (conscious(mob) || mob.spawntime > game.turnnumber);
+    return mob.aliance == side && (conscious(mob) || tocome(game, mob));
   });
 }
 
@@ -135,6 +138,7 @@ void finish(Game& game, const Ending& ending) {
   showpage(game, ending.page, ending.says);
   if (ending.bonuspoints != 0) game.mob(1).earnedpoints += ending.bonuspoints;
   if (ending.saves) savegame(game, "game.sav");
+  keepprogress(game);
 }
 
 void win(Game& game) {
@@ -147,16 +151,20 @@ void win(Game& game) {
   game.cursormode = 0;
   game.menuname = screen::hideout;
   game.menupos = 0;
+  game.missionunwon = false;
   const Mission* const mission = findmission(game.missionnumber);
-  if (mission == nullptr || !mission->ending) return sayit(game, "Back at the hideout.");
-  finish(game, *mission->ending);
+  if (mission != nullptr && mission->ending) return finish(game, *mission->ending);
+  keepprogress(game);
+  sayit(game, "Back at the hideout.");
 }
 
 void lose(Game& game) {
   announce(game, "Defeat", "Mission failed!");
   game.menuname = screen::mainmenu;
   game.menupos = 0;
-  sayit(game, "Main menu.");
+  sayit(game, game.waybackkept
+                  ? "Main menu.  Press F8 to go back to the hideout as it was before this mission."
+                  : "Main menu.");
 }
 
 }  // namespace

@@ -14,6 +14,7 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace duskmarch {
 
@@ -100,7 +101,15 @@ class Page {
   virtual void focus() = 0;
 };
 
-// Modal: both return when the player has closed the box, and the window works on meanwhile. Every
+// What the arrow keys answer in a box that asks for a direction.
+struct ArrowAnswers {
+  std::string_view left;
+  std::string_view up;
+  std::string_view right;
+  std::string_view down;
+};
+
+// Modal: all return when the player has closed the box, and the window works on meanwhile. Every
 // key in them is handed to boxkey(), and what it typed or came to then to echotyped() (both
 // shell/speech/selfreading.h); what Tab comes back to is told again.
 class Dialogs {
@@ -108,6 +117,10 @@ class Dialogs {
   virtual ~Dialogs() = default;
   // What the player typed, or nothing when the box was cancelled.
   virtual std::string input(std::string_view title, std::string_view prompt) = 0;
+  // The same, but while nothing is typed an arrow key, whatever the layout, closes the box and is
+  // answered for the player.
+  virtual std::string choosedirection(std::string_view title, std::string_view prompt,
+                                      const ArrowAnswers& arrows) = 0;
   // An empty title means the program's own.
   virtual void message(std::string_view title, std::string_view text) = 0;
 };
@@ -131,6 +144,12 @@ class Voice {
   virtual void speakafter(std::string_view text) = 0;
   // Cuts off what is being said: another engine speaks from now on.
   virtual void hush() = 0;
+  // What it can sound like, by names fit for speaking, the default first. An engine that has but
+  // one way to sound names none. May take a while, when it is first asked.
+  virtual std::vector<std::string> voicenames() { return {}; }
+  // The voice of that name speaks from the next text on; an empty name means the default. False,
+  // with nothing changed, where there is none of that name. May take as long as voicenames().
+  virtual bool setvoice(std::string_view name) { return name.empty(); }
 };
 
 // The speech engine of mode 3: JAWS on Windows, the system's speech service on Linux.
@@ -236,6 +255,7 @@ struct Desktop {
   Window& window;
   Page& summarylabel;
   Page& storylabel;
+  Page& helplabel;
   Dialogs& dialogs;
 };
 

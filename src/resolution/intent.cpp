@@ -9,6 +9,7 @@
 #include "values/namelist.h"
 #include "world/mapspeech.h"
 #include "world/narration.h"
+#include "world/personwords.h"
 #include "world/tables.h"
 
 namespace duskmarch {
@@ -42,11 +43,6 @@ std::string states(const Mob& enemy) {
   return joinnames(names, ", ");
 }
 
-std::string bonus(const Game& game, int slot) {
-  const Hundredths value = calcfight2(game, slot);
-  return value > Hundredths{} ? " + " + value.text() : "";
-}
-
 std::string plans(const Mob& enemy) {
   const std::string_view he = heorshe(enemy.gender);
   const std::string_view his = hisorher(enemy.gender);
@@ -78,7 +74,7 @@ void mobcheck(Game& game) {
   sayit(game, sentence({enemy.mobname, state.empty() ? "" : " is ", state,
                         state.empty() ? " has " : " with ", std::to_string(enemy.health),
                         " health, fighting skill ", std::to_string(enemy.fight),
-                        bonus(game, game.reportedmob), ". ", plans(enemy)}));
+                        skillbonus(game, game.reportedmob), ". ", plans(enemy)}));
 }
 
 void describeenemy(Game& game) {

@@ -15,6 +15,8 @@
 #include "missions/missions.h"
 #include "resolution/endturn.h"
 #include "resolution/intent.h"
+#include "shell/helppage.h"
+#include "shell/playerkeys.h"
 #include "shell/speech/keycodes.h"
 #include "shell/speech/pages.h"
 #include "shell/speech/selfreading.h"
@@ -167,6 +169,7 @@ void windowkey(Game& game, KeyPress press) {
       (game.menuname == screen::map || game.menuname == screen::options)) {
     return togglecursormode(game);
   }
+  if (playerkey(game, press)) return;
   if (game.menuname != screen::map && isone(menukeys, press.keycode)) return menus(game, press);
   if (game.cursormode == 1 && movecursor(game, press.keycode)) {
     saytile(game, game.cursorx, game.cursory);
@@ -197,6 +200,7 @@ void handlekey(Game& game, KeyPress press) {
   switch (game.focus) {
     case Focus::summarylabel: summarylabel_keydown(game, press); break;
     case Focus::storylabel: storylabel_keydown(game, press); break;
+    case Focus::helplabel: helplabel_keydown(game, press); break;
     case Focus::window: windowkey(game, press); break;
   }
   assert(brokeninvariant(game).empty());
@@ -230,6 +234,7 @@ void handlewaitingkeys(Game& game) {
 void keypress(Game& game, KeyPress press) {
   if (game.ended) return;
   if (game.sendingkeys && isone(readingkeys, press.keycode)) return;
+  game.firststart = false;
   speechengine(game).keypressed(game);
   game.waitingkeys.push_back(press);
   if (!game.keyhandlerbusy) handlewaitingkeys(game);

@@ -2,12 +2,15 @@
 
 #include <string>
 #include <system_error>
+#include <utility>
 
 #include "audio/sounds.h"
 #include "debuglog.h"
 #include "heroturn/dooption.h"
 #include "heroturn/optionlist.h"
 #include "resolution/endturn.h"
+#include "shell/speech/comfort.h"
+#include "shell/speech/guarded.h"
 #include "shell/speech/pages.h"
 #include "shell/speech/progress.h"
 #include "shell/speech/speech.h"
@@ -59,6 +62,12 @@ bool startsound(Game& game) {
   return true;
 }
 
+void setvolumes(Game& game) {
+  CueDevice& cues = game.dsound->cues();
+  cues.setcuevolume(game.cuevolume);
+  cues.setambiencevolume(game.ambiencevolume);
+}
+
 void startstate(Game& game) {
   game.selected = 1;
   for (int slot = 1; slot <= heroslots; ++slot) emptyheroslot(game.mob(slot));
@@ -86,6 +95,8 @@ void startup(Game& game) {
     return game.desktop.system.end();
   }
   readprogress(game);
+  readcomfort(game);
+  setvolumes(game);
   game.trace.note("speechmode " + std::to_string(game.speechmode) + ", sapirate " +
                   std::to_string(game.sapirate) + ", sapiready " + std::to_string(game.sapiready) +
                   ", jawsready " + std::to_string(game.jawsready));
@@ -96,6 +107,14 @@ void startup(Game& game) {
 void repaint(Game& game) {
   drawscreen(game);
   repaintspokenline(game);
+}
+
+void readerfound(Game& game) {
+  if (!std::exchange(game.firststart, false)) return;
+  if (game.speechmode != speechmode::sapi || game.sapiready == 0) return;
+  guarded(game, [&] {
+    game.sapivoice->speakafter("Press Tab once, and your screen reader speaks instead.");
+  });
 }
 
 void command1_click(Game& game) {

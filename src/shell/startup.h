@@ -11,6 +11,10 @@ void startup(Game& game);
 // The surface must be redrawn.
 void repaint(Game& game);
 
+// The front end has found a screen reader: at a first start the player is told how to hear the game
+// through it, after what is being said.
+void readerfound(Game& game);
+
 // What buttons do in a front end that shows some: end the turn; perform the option at the menu
 // position; select the next living hero.
 void command1_click(Game& game);

@@ -57,10 +57,14 @@ std::string location(int x, int y) {
   return saycoords(x) + ", " + std::to_string(y);
 }
 
+std::string placename(Tile tile) {
+  return saycoords(tile.x) + " " + std::to_string(tile.y);
+}
+
 void saytile(Game& game, int x, int y) {
   const std::string& tags = tiletags(game, x, y);
   std::string text = hastag(tags, tag::smoke) ? "Smokey " : "";
-  text += saycoords(x) + " " + std::to_string(y) + ", ";
+  text += placename({x, y}) + ", ";
 
   const auto heroes = mobson(game, {x, y}, aliance::heroes);
   const auto enemies = mobson(game, {x, y}, aliance::enemies);

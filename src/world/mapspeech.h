@@ -5,6 +5,7 @@
 
 #include "game.h"
 #include "values/hundredths.h"
+#include "world/directions.h"
 
 namespace duskmarch {
 
@@ -12,6 +13,8 @@ namespace duskmarch {
 std::string saycoords(int column);
 // "C, 2": how narration names a place.
 std::string location(int x, int y);
+// "C 2": how the map names it.
+std::string placename(Tile tile);
 // Speaks what is on a tile.
 void saytile(Game& game, int x, int y);
 // Speak everyone of a side, or all furniture, with their places.

@@ -1,6 +1,7 @@
 #include "world/narration.h"
 
 #include <array>
+#include <cctype>
 
 #include "resolution/tags.h"
 
@@ -66,6 +67,12 @@ std::string_view himorher(int gender) {
 
 std::string_view hisorher(int gender) {
   return pronouns(gender).possessive;
+}
+
+std::string insmallletters(std::string_view word) {
+  std::string text(word);
+  for (char& c : text) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+  return text;
 }
 
 std::string sentence(std::initializer_list<std::string_view> parts) {

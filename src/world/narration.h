@@ -18,6 +18,9 @@ std::string_view heorshe(int gender);
 std::string_view himorher(int gender);
 std::string_view hisorher(int gender);
 
+// Plain letters in small ones: "west".
+std::string insmallletters(std::string_view word);
+
 // The parts of a sentence, put together.
 std::string sentence(std::initializer_list<std::string_view> parts);
 

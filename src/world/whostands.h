@@ -120,6 +120,11 @@ auto namesakes(AnyGame& game, std::string_view name) {
   return Those(everyone(game), [name](const Mob& mob) { return mob.mobname == name; });
 }
 
+// Whether somebody is yet to arrive.
+inline bool tocome(const Game& game, const Mob& mob) {
+  return !conscious(mob) && mob.spawntime > game.turnnumber;
+}
+
 // The furniture in play; that on a tile.
 inline auto furniture(const Game& game) {
   return Those(allfurniture(game), [](const Item& item) { return onthemap(item); });

@@ -89,10 +89,11 @@ class QtWindowTest : public testing::Test {
   QtWindow window;
   QtPage summarylabel{window, "Turn summary"};
   QtPage storylabel{window, "Story"};
+  QtPage helplabel{window, "Help"};
   QtDialogs dialogs{window};
   QTemporaryDir folder;
   QtSystem system{window, folder.path().toStdString()};
-  Desktop desktop{system, window, summarylabel, storylabel, dialogs};
+  Desktop desktop{system, window, summarylabel, storylabel, helplabel, dialogs};
   Game game{desktop};
 };
 

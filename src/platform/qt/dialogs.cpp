@@ -117,7 +117,7 @@ class Box : public QDialog {
 // A line to type in that tells what it hears, as a screen reader would.
 class Field : public QLineEdit {
  public:
-  explicit Field(Box& box) : box_(box) {
+  explicit Field(Box& box, ArrowAnswers arrows = {}) : box_(box), arrows_(arrows) {
     setContextMenuPolicy(Qt::NoContextMenu);  // it would take the keys, unheard
     connect(this, &QLineEdit::textEdited, this, [this](const QString& now) {
       const std::string before = fromqt(std::exchange(before_, now));
@@ -128,6 +128,11 @@ class Field : public QLineEdit {
 
  protected:
   void keyPressEvent(QKeyEvent* event) override {
+    if (const std::string_view answer = answerof(event->key());
+        text().isEmpty() && !answer.empty()) {
+      setText(toqt(answer));
+      return box_.accept();
+    }
     const QString unchanged = text();
     const int place = cursorPosition();
     QLineEdit::keyPressEvent(event);
@@ -135,6 +140,17 @@ class Field : public QLineEdit {
   }
 
  private:
+  // Empty for a key that answers nothing.
+  std::string_view answerof(int key) const {
+    switch (key) {
+      case Qt::Key_Left: return arrows_.left;
+      case Qt::Key_Up: return arrows_.up;
+      case Qt::Key_Right: return arrows_.right;
+      case Qt::Key_Down: return arrows_.down;
+      default: return {};
+    }
+  }
+
   void tellcaret(int key, bool moved) {
     if (!moved && std::ranges::find(caretkeys, key) == caretkeys.end()) return;
     const QString came = text().mid(cursorPosition(), 1);
@@ -142,20 +158,31 @@ class Field : public QLineEdit {
   }
 
   Box& box_;
+  ArrowAnswers arrows_;
   QString before_;
 };
+
+std::string ask(QtWindow& window, std::string_view title, std::string_view prompt,
+                const ArrowAnswers& arrows) {
+  auto box =
+      std::make_unique<Box>(window, title, prompt, QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+  auto* field = new Field(*box, arrows);  // the box's own
+  box->add(*field);
+  window.runmodal(*box);
+  std::string typed = box->result() == QDialog::Accepted ? fromqt(field->text()) : std::string();
+  window.closelater(std::move(box));
+  return typed;
+}
 
 }  // namespace
 
 std::string QtDialogs::input(std::string_view title, std::string_view prompt) {
-  auto box = std::make_unique<Box>(window_, title, prompt,
-                                   QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
-  auto* field = new Field(*box);  // the box's own
-  box->add(*field);
-  window_.runmodal(*box);
-  std::string typed = box->result() == QDialog::Accepted ? fromqt(field->text()) : std::string();
-  window_.closelater(std::move(box));
-  return typed;
+  return ask(window_, title, prompt, {});
+}
+
+std::string QtDialogs::choosedirection(std::string_view title, std::string_view prompt,
+                                       const ArrowAnswers& arrows) {
+  return ask(window_, title, prompt, arrows);
 }
 
 void QtDialogs::message(std::string_view title, std::string_view text) {

@@ -11,6 +11,8 @@ class QtDialogs : public Dialogs {
   explicit QtDialogs(QtWindow& window) : window_(window) {}
 
   std::string input(std::string_view title, std::string_view prompt) override;
+  std::string choosedirection(std::string_view title, std::string_view prompt,
+                              const ArrowAnswers& arrows) override;
   void message(std::string_view title, std::string_view text) override;
 
  private:

@@ -11,9 +11,10 @@ namespace duskmarch {
 FrontEnd::FrontEnd(std::filesystem::path folder)
     : summarylabel_(window_, QStringLiteral("Turn summary")),
       storylabel_(window_, QStringLiteral("Story")),
+      helplabel_(window_, QStringLiteral("Help")),
       dialogs_(window_),
       system_(window_, std::move(folder)),
-      desktop_{system_, window_, summarylabel_, storylabel_, dialogs_} {}
+      desktop_{system_, window_, summarylabel_, storylabel_, helplabel_, dialogs_} {}
 
 bool FrontEnd::run(Game& game) {
   const TerminationSignals termination([this] { window_.end(); });

@@ -25,6 +25,7 @@ class FrontEnd {
   QtWindow window_;
   QtPage summarylabel_;
   QtPage storylabel_;
+  QtPage helplabel_;
   QtDialogs dialogs_;
   QtSystem system_;
   Desktop desktop_;

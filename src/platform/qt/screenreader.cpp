@@ -9,6 +9,7 @@
 #include <QDBusVariant>
 #include <QVariantMap>
 #include <QWidget>
+#include <utility>
 
 namespace duskmarch {
 
@@ -41,7 +42,8 @@ void servescreenreaders() {
   qputenv("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "1");
 }
 
-ScreenReader::ScreenReader(QWidget& window) : window_(window) {
+ScreenReader::ScreenReader(QWidget& window, std::function<void()> found)
+    : window_(window), found_(std::move(found)) {
   QObject::connect(&timer_, &QTimer::timeout, [this] { ask(); });
   timer_.start(1s);
 }
@@ -74,8 +76,9 @@ void ScreenReader::ask() {
   auto* watcher = new QDBusPendingCallWatcher(accessibilitybus().asyncCall(question), &timer_);
   QObject::connect(watcher, &QDBusPendingCallWatcher::finished, &timer_,
                    [this](QDBusPendingCallWatcher* answered) {
-                     attached_ = anylistener(answered->reply());
+                     const bool before = std::exchange(attached_, anylistener(answered->reply()));
                      answered->deleteLater();
+                     if (attached_ && !before) found_();
                    });
 }
 

@@ -4,6 +4,7 @@
 #include <QObject>
 #include <QString>
 #include <QTimer>
+#include <functional>
 
 class QWidget;
 
@@ -15,7 +16,8 @@ void servescreenreaders();
 
 class ScreenReader {
  public:
-  explicit ScreenReader(QWidget& window);
+  // `found` is called each time that a reader turns out to be there after all.
+  ScreenReader(QWidget& window, std::function<void()> found);
 
   // The window's name for a reader is its new title, at all times; nothing is said.
   void retitled(const QString& title);
@@ -29,6 +31,7 @@ class ScreenReader {
   void ask();
 
   QWidget& window_;
+  std::function<void()> found_;
   QTimer timer_;
   bool longer_ = false;  // the last title was announced with two spaces more, not with one
   bool attached_ = false;

@@ -28,7 +28,10 @@ QSize fitting(QSize wanted) {
 
 }  // namespace
 
-QtWindow::QtWindow() : reader_(*this) {
+QtWindow::QtWindow()
+    : reader_(*this, [this] {
+        if (game_ != nullptr) readerfound(*game_);
+      }) {
   setWindowTitle(QStringLiteral("Duskmarch"));
   // A window that gets the focus has its title read out, that is the last text once more; of a
   // part without a name nothing is said.

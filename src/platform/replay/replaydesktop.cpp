@@ -116,7 +116,8 @@ ReplayDesktop::ReplayDesktop(const ReplayOptions& options)
       canvas(transcript),
       summary("summary", transcript),
       story("story", transcript),
+      help("help", transcript),
       dialogs(transcript),
-      desktop_{system, window, summary, story, dialogs} {}
+      desktop_{system, window, summary, story, help, dialogs} {}
 
 }  // namespace duskmarch

@@ -95,6 +95,10 @@ class ReplayDialogs final : public Dialogs {
  public:
   explicit ReplayDialogs(Transcript& transcript) : transcript_(transcript) {}
   std::string input(std::string_view title, std::string_view prompt) override;
+  std::string choosedirection(std::string_view title, std::string_view prompt,
+                              const ArrowAnswers& /*arrows*/) override {
+    return input(title, prompt);  // a script types its answers
+  }
   void message(std::string_view title, std::string_view text) override;
 
   std::deque<std::optional<std::string>> answers;  // nothing: the box is cancelled
@@ -116,6 +120,7 @@ class ReplayDesktop {
   ReplayCanvas canvas;
   ReplayPage summary;
   ReplayPage story;
+  ReplayPage help;
   ReplayDialogs dialogs;
 
  private:

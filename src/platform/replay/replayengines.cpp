@@ -1,5 +1,6 @@
 #include "platform/replay/replayengines.h"
 
+#include <algorithm>
 #include <fstream>
 
 #include "values/filelookup.h"
@@ -22,6 +23,14 @@ std::string beginning(const std::filesystem::path& file, std::size_t size) {
 }
 
 }  // namespace
+
+bool ReplayVoice::setvoice(std::string_view name) {
+  const std::vector<std::string> names = voicenames();
+  if (name.empty()) name = names.front();
+  if (std::ranges::find(names, name) == names.end()) return false;
+  transcript_.event("voicename", name);
+  return true;
+}
 
 bool ReplaySound::isgood(const std::filesystem::path& file) {
   const std::optional<FileStamp> stamp = stampof(file);

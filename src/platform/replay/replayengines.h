@@ -19,6 +19,8 @@ class ReplayVoice final : public Voice {
   void speak(std::string_view text) override { transcript_.event("voice", text); }
   void speakafter(std::string_view text) override { transcript_.event("voice", text); }
   void hush() override {}
+  std::vector<std::string> voicenames() override { return {"First", "Second"}; }
+  bool setvoice(std::string_view name) override;
 
  private:
   Transcript& transcript_;

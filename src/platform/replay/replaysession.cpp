@@ -80,12 +80,19 @@ ReplaySession::Command ReplaySession::parseseeding(std::string_view rest) {
   return [this, number] { seed(game, *number); };
 }
 
+ReplayPage& ReplaySession::focusedpage() {
+  switch (game.focus) {
+    case Focus::summarylabel: return replay.summary;
+    case Focus::helplabel: return replay.help;
+    default: return replay.story;
+  }
+}
+
 void ReplaySession::presskey(KeyPress key) {
   const Focus focus = game.focus;
   keypress(game, key);
   if (focus == Focus::window || focus != game.focus) return;
-  ReplayPage& page = focus == Focus::storylabel ? replay.story : replay.summary;
-  if (const auto reached = page.movecaret(key.keycode)) caretmoved(game, *reached);
+  if (const auto reached = focusedpage().movecaret(key.keycode)) caretmoved(game, *reached);
 }
 
 void ReplaySession::draw() {

@@ -36,6 +36,7 @@ class ReplaySession {
   Command parse(std::string_view name, std::string_view rest);
   Command parsekey(std::string_view rest);
   Command parseseeding(std::string_view rest);
+  ReplayPage& focusedpage();
   void draw();
 };
 

@@ -18,6 +18,8 @@ class SharedVoice final : public Voice {
   void speak(std::string_view text) override { voice_->speak(text); }
   void speakafter(std::string_view text) override { voice_->speakafter(text); }
   void hush() override { voice_->hush(); }
+  std::vector<std::string> voicenames() override { return voice_->voicenames(); }
+  bool setvoice(std::string_view name) override { return voice_->setvoice(name); }
 
  private:
   std::shared_ptr<Voice> voice_;

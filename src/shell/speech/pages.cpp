@@ -19,6 +19,20 @@ void hide(Game& game, Page& page, Focus focus) {
   if (game.focus == focus) game.focus = Focus::window;
 }
 
+void announcebox(Game& game, std::string_view title, std::string_view prompt) {
+  if (speechengine(game).speaksprompts) {
+    sayit(game, prompt);
+  } else {
+    readaloud(game, prompt);
+  }
+  readaloud(game, title);
+}
+
+std::string noted(Game& game, std::string answer) {
+  game.trace.answer(answer);
+  return answer;
+}
+
 }  // namespace
 
 void showsummary(Game& game) {
@@ -55,16 +69,28 @@ void hidestory(Game& game) {
   hide(game, game.desktop.storylabel, Focus::storylabel);
 }
 
+void showhelp(Game& game) {
+  game.desktop.helplabel.show(game.helplabel);
+}
+
+void focushelp(Game& game) {
+  givefocus(game, game.desktop.helplabel, Focus::helplabel);
+  readpage(game, game.helplabel);
+}
+
+void hidehelp(Game& game) {
+  hide(game, game.desktop.helplabel, Focus::helplabel);
+}
+
 std::string inputbox(Game& game, std::string_view title, std::string_view prompt) {
-  if (speechengine(game).speaksprompts) {
-    sayit(game, prompt);
-  } else {
-    readaloud(game, prompt);
-  }
-  readaloud(game, title);
-  std::string typed = game.desktop.dialogs.input(title, prompt);
-  game.trace.answer(typed);
-  return typed;
+  announcebox(game, title, prompt);
+  return noted(game, game.desktop.dialogs.input(title, prompt));
+}
+
+std::string directionbox(Game& game, std::string_view title, std::string_view prompt,
+                         const ArrowAnswers& arrows) {
+  announcebox(game, title, prompt);
+  return noted(game, game.desktop.dialogs.choosedirection(title, prompt, arrows));
 }
 
 void messagebox(Game& game, std::string_view title, std::string_view text) {

@@ -20,9 +20,17 @@ void showstory(Game& game);
 void focusstory(Game& game);
 void hidestory(Game& game);
 
+void showhelp(Game& game);
+// Also reads the whole page to a player without a screen reader.
+void focushelp(Game& game);
+void hidehelp(Game& game);
+
 // What the player typed; empty when the box was cancelled. Mode 0 speaks the
 // prompt first.
 std::string inputbox(Game& game, std::string_view title, std::string_view prompt);
+// The same for a direction, which an arrow key answers as well.
+std::string directionbox(Game& game, std::string_view title, std::string_view prompt,
+                         const ArrowAnswers& arrows);
 void messagebox(Game& game, std::string_view title, std::string_view text);
 
 }  // namespace duskmarch

@@ -1,0 +1,84 @@
+#include "shell/speech/comfort.h"
+
+#include <algorithm>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "shell/speech/guarded.h"
+#include "shell/speech/settingsfile.h"
+#include "shell/speech/speech.h"
+#include "values/textfile.h"
+
+namespace duskmarch {
+
+namespace {
+
+constexpr std::string_view comfortfile = "comfort.ini";
+enum Line : std::size_t { descriptions, cuevolume, ambiencevolume, voice, count };
+
+bool setvoice(Game& game, std::string_view name) {
+  bool set = false;
+  guarded(game, [&] { set = game.sapivoice->setvoice(name); });
+  return set;
+}
+
+// Without a voice, the one that was chosen is kept for the day on which there is one again.
+void restorevoice(Game& game) {
+  if (game.sapiready == 0 || game.voicename.empty() || setvoice(game, game.voicename)) return;
+  addsentence(game, "The voice " + std::exchange(game.voicename, {}) + " is gone.");
+}
+
+std::vector<std::string> voicenames(Game& game) {
+  std::vector<std::string> names;
+  guarded(game, [&] {
+    if (game.sapiready == 1) names = game.sapivoice->voicenames();
+  });
+  return names;
+}
+
+std::size_t neighbour(std::size_t place, int step, std::size_t size) {
+  return step > 0 ? (place + 1) % size : (place + size - 1) % size;
+}
+
+}  // namespace
+
+void readcomfort(Game& game) {
+  const auto lines = readsettings(game, comfortfile, count, "readcomfort");
+  if (!lines) return;
+  game.fulldescriptions = setting((*lines)[descriptions], 0, 1).value_or(1) == 1;
+  game.cuevolume = setting((*lines)[cuevolume], 0, 10).value_or(game.cuevolume);
+  game.ambiencevolume = setting((*lines)[ambiencevolume], 0, 10).value_or(game.ambiencevolume);
+  game.voicename = trim((*lines)[voice]);
+  restorevoice(game);
+}
+
+void keepcomfort(Game& game) {
+  const std::string text = numberline(game.fulldescriptions ? 1 : 0) + "\r\n" +
+                           numberline(game.cuevolume) + "\r\n" + numberline(game.ambiencevolume) +
+                           "\r\n" + game.voicename + "\r\n";
+  if (writesettings(game, comfortfile, text) || game.comfortfailuretold) return;
+  game.comfortfailuretold = true;
+  addsentence(game, "These settings cannot be kept.");
+}
+
+void toggledescriptions(Game& game) {
+  game.fulldescriptions = !game.fulldescriptions;
+  keepcomfort(game);
+  sayit(game, game.fulldescriptions ? "Full descriptions." : "Short descriptions.");
+}
+
+void changevoice(Game& game, int step) {
+  const std::vector<std::string> names = voicenames(game);
+  if (names.size() < 2) return sayit(game, "There is no other voice.");
+  const auto known = std::ranges::find(names, game.voicename);
+  std::size_t place = known == names.end() ? 0 : static_cast<std::size_t>(known - names.begin());
+  place = neighbour(place, step, names.size());
+  const std::string& name = names[place];
+  if (!setvoice(game, name)) return sayit(game, "The voice " + name + " is gone.");
+  game.voicename = place == 0 ? std::string() : name;
+  keepcomfort(game);
+  sayit(game, name);
+}
+
+}  // namespace duskmarch
