@@ -71,7 +71,7 @@ TEST_F(EspeakVoiceTest, BeginsAtOnceAndAtAGoodLevel) {
 
 TEST_F(EspeakVoiceTest, LosesNothingAtTheEnd) {
   std::size_t made = 0;
-  Espeak::instance().say(longtext, wordsaminute(2), [&](auto samples) {
+  Espeak::instance().say(longtext, wordsaminute(2), {}, [&](auto samples) {
     made += samples.size();
     return true;
   });
