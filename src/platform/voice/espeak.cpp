@@ -1,8 +1,12 @@
 #include "platform/voice/espeak.h"
 
+#include <algorithm>
 #include <array>
+#include <cstdlib>
 #include <exception>
 #include <span>
+#include <string_view>
+#include <utility>
 
 #include <espeak-ng/espeak_ng.h>
 #include <espeak-ng/speak_lib.h>
@@ -48,6 +52,63 @@ void check(espeak_ng_STATUS status) {
   throw PlatformError(std::string("the voice fails: ") + words.data());
 }
 
+bool isspokenas(const espeak_VOICE& voice, std::string_view language) {
+  // Entries of a priority byte and a name; an empty one ends them.
+  for (const char* entry = voice.languages; entry != nullptr && *entry != '\0';) {
+    const std::string_view name = entry + 1;
+    if (name == language || name.starts_with(std::string(language) + "-")) return true;
+    entry += name.size() + 2;
+  }
+  return false;
+}
+
+// "de" of "de_DE.UTF-8".
+std::string systemlanguage() {
+  for (const char* variable : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
+    const char* const value = std::getenv(variable);
+    if (value == nullptr || *value == '\0') continue;
+    const std::string_view locale = value;
+    return std::string(locale.substr(0, locale.find_first_of("_.@-")));
+  }
+  return {};
+}
+
+// Those of a language; of "variant", the variants.
+std::vector<NamedVoice> listed(const char* language) {
+  espeak_VOICE wanted{};
+  wanted.languages = language;
+  std::vector<NamedVoice> voices;
+  for (const espeak_VOICE** voice = espeak_ListVoices(&wanted); *voice != nullptr; ++voice) {
+    const std::string file = (*voice)->identifier;
+    if (file.starts_with("mb/")) continue;  // needs another synthesizer, and its samples
+    if (!isspokenas(**voice, language)) continue;
+    voices.push_back({(*voice)->name, file});
+  }
+  std::ranges::sort(voices, {}, &NamedVoice::name);
+  return voices;
+}
+
+void add(std::vector<NamedVoice>& voices, NamedVoice voice) {
+  const auto same = [&](const NamedVoice& known) {
+    return known.name == voice.name || known.file == voice.file;
+  };
+  if (std::ranges::none_of(voices, same)) voices.push_back(std::move(voice));
+}
+
+std::vector<NamedVoice> allvoices() {
+  std::vector<NamedVoice> voices = {{"English", voicefile}};
+  if (const std::string language = systemlanguage(); !language.empty()) {
+    for (NamedVoice& voice : listed(language.c_str())) add(voices, std::move(voice));
+  }
+  constexpr std::string_view folder = "!v/";
+  for (const NamedVoice& variant : listed("variant")) {
+    const std::string file =
+        variant.file.substr(variant.file.find(folder) == 0 ? folder.size() : 0);
+    add(voices, {"English, " + variant.name, std::string(voicefile) + "+" + file});
+  }
+  return voices;
+}
+
 }  // namespace
 
 Espeak& Espeak::instance() {
@@ -60,13 +121,30 @@ Espeak::Espeak() {
   espeak_ng_InitializePath(nullptr);
   check(espeak_ng_Initialize(nullptr));
   check(espeak_ng_InitializeOutput(ENOUTPUT_MODE_SYNCHRONOUS, stretch, nullptr));
-  if (espeak_ng_SetVoiceByName(voicefile) != ENS_OK) check(espeak_ng_SetVoiceByName(voicelanguage));
+  usevoice(voicefile);
   espeak_SetSynthCallback(deliver);
   samplerate_ = espeak_ng_GetSampleRate();
 }
 
-void Espeak::say(const std::string& text, int wordsaminute, const SampleSink<std::int16_t>& sink) {
+const std::vector<NamedVoice>& Espeak::voices() {
   const std::lock_guard guard(saying_);
+  if (voices_.empty()) voices_ = allvoices();
+  return voices_;
+}
+
+void Espeak::usevoice(const std::string& file) {
+  if (file == voice_) return;
+  if (espeak_ng_SetVoiceByName(file.c_str()) != ENS_OK &&
+      espeak_ng_SetVoiceByName(voicefile) != ENS_OK) {
+    check(espeak_ng_SetVoiceByName(voicelanguage));
+  }
+  voice_ = file;
+}
+
+void Espeak::say(const std::string& text, int wordsaminute, const std::string& voice,
+                 const SampleSink<std::int16_t>& sink) {
+  const std::lock_guard guard(saying_);
+  usevoice(voice.empty() ? voicefile : voice);
   check(espeak_ng_SetParameter(espeakRATE, wordsaminute, 0));
   Delivery delivery{sink, nullptr};
   check(espeak_ng_Synthesize(text.c_str(), text.size() + 1, 0, POS_CHARACTER, 0, espeakCHARS_UTF8,

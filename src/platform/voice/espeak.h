@@ -4,10 +4,16 @@
 #include <cstdint>
 #include <mutex>
 #include <string>
+#include <vector>
 
 #include "platform/voice/resampler.h"
 
 namespace duskmarch {
+
+struct NamedVoice {
+  std::string name;  // fit for speaking
+  std::string file;  // as the synthesizer finds it, perhaps with a variant
+};
 
 class Espeak {
  public:
@@ -16,16 +22,25 @@ class Espeak {
   static Espeak& instance();
 
   int samplerate() const { return samplerate_; }
+  // The default first, then those of the system's language, then English in every variant. Read
+  // from the disk at the first call, which waits for a text that another thread has said.
+  const std::vector<NamedVoice>& voices();
   // Returns when all of `text` has gone to `sink`, or when that wants no more; waits for a text
-  // that another thread has said. `text` is plain UTF-8 without control characters. Throws
+  // that another thread has said. `voice` is the file of one of the voices; where it is gone, the
+  // default speaks. `text` is plain UTF-8 without control characters. Throws
   // PlatformError.
-  void say(const std::string& text, int wordsaminute, const SampleSink<std::int16_t>& sink);
+  void say(const std::string& text, int wordsaminute, const std::string& voice,
+           const SampleSink<std::int16_t>& sink);
 
  private:
   Espeak();
 
+  void usevoice(const std::string& file);
+
   std::mutex saying_;
   int samplerate_ = 0;
+  std::string voice_;  // the file of the one that speaks
+  std::vector<NamedVoice> voices_;
 };
 
 }  // namespace duskmarch

@@ -72,7 +72,7 @@ void EspeakVoice::speak(std::string_view text) {
     const std::lock_guard guard(mutex_);
     turn_ = stream_->cut();
     waiting_.clear();
-    if (!plain.empty()) waiting_.push_back({std::move(plain), turn_, rate_});
+    if (!plain.empty()) waiting_.push_back({std::move(plain), turn_, rate_, voice_});
   }
   wake_.notify_one();
 }
@@ -82,9 +82,26 @@ void EspeakVoice::speakafter(std::string_view text) {
   if (plain.empty()) return;
   {
     const std::lock_guard guard(mutex_);
-    waiting_.push_back({std::move(plain), turn_, rate_});
+    waiting_.push_back({std::move(plain), turn_, rate_, voice_});
   }
   wake_.notify_one();
+}
+
+std::vector<std::string> EspeakVoice::voicenames() {
+  speak({});
+  std::vector<std::string> names;
+  for (const NamedVoice& voice : espeak_.voices()) names.push_back(voice.name);
+  return names;
+}
+
+bool EspeakVoice::setvoice(std::string_view name) {
+  speak({});
+  const std::vector<NamedVoice>& voices = espeak_.voices();
+  const auto found = std::ranges::find(voices, name, &NamedVoice::name);
+  if (!name.empty() && found == voices.end()) return false;
+  const std::lock_guard guard(mutex_);
+  voice_ = name.empty() ? std::string() : found->file;
+  return true;
 }
 
 bool EspeakVoice::idle() const {
@@ -119,12 +136,13 @@ void EspeakVoice::say(const Utterance& utterance) {
   // What the player hears of a key must not begin with a silence.
   bool begun = false;
   resampler_.reset();
-  espeak_.say(
-      utterance.text, wordsaminute(utterance.rate), [&](std::span<const std::int16_t> samples) {
-        if (!begun) samples = fromfirstsound(samples);
-        begun = !samples.empty();
-        return begun ? resampler_.feed(samples, false, queue) : stream_->current(utterance.turn);
-      });
+  espeak_.say(utterance.text, wordsaminute(utterance.rate), utterance.voice,
+              [&](std::span<const std::int16_t> samples) {
+                if (!begun) samples = fromfirstsound(samples);
+                begun = !samples.empty();
+                return begun ? resampler_.feed(samples, false, queue)
+                             : stream_->current(utterance.turn);
+              });
   resampler_.feed({}, true, queue);
 }
 

@@ -8,6 +8,7 @@
 #include <string>
 #include <string_view>
 #include <thread>
+#include <vector>
 
 #include "platform/desktop.h"
 #include "platform/voice/espeak.h"
@@ -26,6 +27,9 @@ class EspeakVoice final : public Voice {
   void speak(std::string_view text) override;
   void speakafter(std::string_view text) override;
   void hush() override { speak({}); }
+  // Both silence the voice, so as not to wait for what it is saying.
+  std::vector<std::string> voicenames() override;
+  bool setvoice(std::string_view name) override;
 
   // Whether everything asked for has gone into the stream.
   bool idle() const;
@@ -35,6 +39,7 @@ class EspeakVoice final : public Voice {
     std::string text;
     SpeechStream::Turn turn = 0;
     int rate = 0;
+    std::string voice;
   };
 
   void work();
@@ -52,6 +57,7 @@ class EspeakVoice final : public Voice {
   std::deque<Utterance> waiting_;
   SpeechStream::Turn turn_ = 0;
   int rate_;
+  std::string voice_;  // its file; empty for the default
   bool saying_ = false;
   bool ending_ = false;
 
