@@ -61,15 +61,13 @@ std::string playbythemanual(std::uint32_t seed) {
   using namespace key;
   Newcomer player(seed);
   player.press({down, down, enter, escape});
-  player.press({up, down, z, x, space, n, down, down, enter, n, up});
+  player.press({up, down, z, x, h, space, n, down, down, enter, n, up});
   player.answer("w");
   player.press({enter});
   player.pressuntil(down, "Kick Henchman Joe");
   player.press({enter, e});
   player.press({e}, modifier::shift);
-  player.press({enter, space, right, right, up, m, space, n, down});
-  player.answer("w");
-  player.press({enter, n});
+  player.press({enter, d, space, right, right, up, m, i, n, b, left, enter, n, space});
   player.pressuntil(down, "Pin Henchman Albert");
   player.press({enter});
   player.press({e}, modifier::shift);

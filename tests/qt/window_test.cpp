@@ -228,6 +228,23 @@ TEST_F(QtWindowTest, InputBoxEchoesAndReturnsWhatIsTyped) {
   EXPECT_TRUE(window.hasFocus());
 }
 
+TEST_F(QtWindowTest, ArrowsAnswerTheDirectionBoxWhileNothingIsTyped) {
+  const ArrowAnswers arrows = {.left = "W", .up = "N", .right = "E", .down = "S"};
+  const auto ask = [&] { return dialogs.choosedirection("Direction", "Where?", arrows); };
+  for (const auto& [key, answer] : std::vector<std::pair<int, std::string>>{
+           {Qt::Key_Left, "W"}, {Qt::Key_Up, "N"}, {Qt::Key_Right, "E"}, {Qt::Key_Down, "S"}}) {
+    inbox([key = key](QWidget* field) { press(field, key); });
+    EXPECT_EQ(ask(), answer);
+  }
+  EXPECT_EQ(said, Texts{}) << "the order tells of it";
+  inbox([](QWidget* field) {
+    type(field, "s");
+    press(field, Qt::Key_Left);
+    press(field, Qt::Key_Return);
+  });
+  EXPECT_EQ(ask(), "s");
+}
+
 TEST_F(QtWindowTest, InputBoxTellsItsButtonsAndFallsSilent) {
   inbox([](QWidget* field) {
     QCoreApplication::processEvents();  // which makes the box the active window

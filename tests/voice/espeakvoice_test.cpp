@@ -126,6 +126,34 @@ TEST_F(EspeakVoiceTest, EachRateIsFasterThanTheOneBefore) {
   }
 }
 
+TEST_F(EspeakVoiceTest, SpeaksByTheVoiceThatIsChosen) {
+  setenv("LC_ALL", "de_DE.UTF-8", 1);
+  const std::vector<std::string> names = voice_.voicenames();
+  unsetenv("LC_ALL");
+  ASSERT_GT(names.size(), 10U);
+  EXPECT_EQ(names[0], "English");
+  EXPECT_EQ(names[1], "German");
+  EXPECT_TRUE(names.back().starts_with("English, ")) << names.back();
+  const double before = length(longtext);
+  for (const std::string& other : {names[1], names.back()}) {
+    EXPECT_TRUE(voice_.setvoice(other));
+    EXPECT_NE(length(longtext), before) << other;
+  }
+  EXPECT_FALSE(voice_.setvoice("Nobody"));
+  EXPECT_NE(length(longtext), before) << "nothing has changed";
+  EXPECT_TRUE(voice_.setvoice(""));
+  EXPECT_EQ(length(longtext), before);
+}
+
+TEST_F(EspeakVoiceTest, VoicesAreToldWhileATextIsSaid) {
+  std::string huge;
+  while (huge.size() < 1'000'000) huge += longtext;
+  voice_.speak(huge);
+  waitforsound();
+  EXPECT_TRUE(voice_.setvoice(voice_.voicenames().back()));
+  EXPECT_GT(length("Stop."), 0);
+}
+
 TEST_F(EspeakVoiceTest, SurvivesStrangeTexts) {
   std::string every;
   for (int i = 0; i < 3 * 256; ++i) every += static_cast<char>(i);
