@@ -73,15 +73,20 @@ std::string systemlanguage() {
   return {};
 }
 
-// Those of a language; of "variant", the variants.
-std::vector<NamedVoice> listed(const char* language) {
+// What the synthesizer calls the language of its variants, and where it has them.
+constexpr std::string_view variants = "variant";
+constexpr std::string_view variantfolder = "!v/";
+
+// Those of a language, or the variants.
+std::vector<NamedVoice> listed(const std::string& language) {
   espeak_VOICE wanted{};
-  wanted.languages = language;
+  wanted.languages = language.c_str();
   std::vector<NamedVoice> voices;
   for (const espeak_VOICE** voice = espeak_ListVoices(&wanted); *voice != nullptr; ++voice) {
     const std::string file = (*voice)->identifier;
     if (file.starts_with("mb/")) continue;  // needs another synthesizer, and its samples
     if (!isspokenas(**voice, language)) continue;
+    if (file.starts_with(variantfolder) != (language == variants)) continue;
     voices.push_back({(*voice)->name, file});
   }
   std::ranges::sort(voices, {}, &NamedVoice::name);
@@ -98,12 +103,10 @@ void add(std::vector<NamedVoice>& voices, NamedVoice voice) {
 std::vector<NamedVoice> allvoices() {
   std::vector<NamedVoice> voices = {{"English", voicefile}};
   if (const std::string language = systemlanguage(); !language.empty()) {
-    for (NamedVoice& voice : listed(language.c_str())) add(voices, std::move(voice));
+    for (NamedVoice& voice : listed(language)) add(voices, std::move(voice));
   }
-  constexpr std::string_view folder = "!v/";
-  for (const NamedVoice& variant : listed("variant")) {
-    const std::string file =
-        variant.file.substr(variant.file.find(folder) == 0 ? folder.size() : 0);
+  for (const NamedVoice& variant : listed(std::string(variants))) {
+    const std::string file = variant.file.substr(variantfolder.size());
     add(voices, {"English, " + variant.name, std::string(voicefile) + "+" + file});
   }
   return voices;
