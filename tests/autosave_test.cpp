@@ -64,8 +64,8 @@ TEST(Autosave, ALostMissionCanBeTriedAgain) {
             "Main menu.  Press F8 to go back to the hideout as it was before this mission.");
   perform(player, 1);
   player.game().missionnumber = 2;
-  recruit(player, 2, "Lynx");
-  EXPECT_EQ(player.folder().read(kept), before) << "what came after the lost mission";
+  EXPECT_EQ(recruit(player, 2, "Lynx"), Spoken{"Lynx recruited.  Back at the hideout."});
+  ASSERT_EQ(player.folder().read(kept), before) << "what came after the lost mission";
   EXPECT_EQ(player.spokenby(key::f8), Spoken{"Game loaded."});
   EXPECT_EQ(reach(player, 4), Spoken{"Begin mission 1."});
   player.game().missionnumber = 2;
