@@ -4,11 +4,13 @@
 // gunman: "Tony 2,1 16 3 gun [Dazed][Netted] plans[Loaded]". In slot order, parted by " | ", the
 // furniture last: "Table 2,3 1". Heroes are Vesper, Nora and Bly, of a full health of 20; everyone
 // else is an enemy whose target is slot 1. Vesper and Vicky are women.
-// Also understood are "moved", "acted", "engaged" and "t2" (another target); and what became of it
+// Also understood are "moved", "acted", "engaged", "t2" (another target), "leads" (a gifted enemy)
+// and "comes2" (his turn of coming), and in plans "_" stands for a space; and what became of it
 // tells "p1" (points earned), "busy" (not rested) and "used" for an act that took a use of an
 // ability.
 #pragma once
 
+#include <algorithm>
 #include <sstream>
 #include <stdexcept>
 #include <string>
@@ -26,10 +28,15 @@ inline void arrangeword(Mob& mob, const std::string& word) {
     mob.engaged = 1;
   } else if (word == "gun") {
     mob.mobtype = mobtype::gunman;
+  } else if (word == "leads") {
+    mob.mobtype = mobtype::gifted;
+  } else if (word.starts_with("comes")) {
+    mob.spawntime = std::stoi(word.substr(5));
   } else if (word.starts_with("[")) {
     mob.status = word;
   } else if (word.starts_with("plans[")) {
     mob.action = word.substr(5);
+    std::ranges::replace(mob.action, '_', ' ');
   } else if (word.starts_with("t") && word.size() == 2) {
     mob.target = std::stoi(word.substr(1));
   } else {
@@ -77,6 +84,28 @@ inline void arrange(Game& game, const std::string& ground) {
     }
     newitem(game, name, x, y, health);
   }
+}
+
+// The same, for an order of Vesper's: she is in slot 1 and acts, with a full skill of 4, a gun of
+// 5, and one use of the ability.
+inline void arrangefor(Game& game, const std::string& ground, const std::string& option) {
+  arrange(game, ground);
+  game.mob(1).maxfight = 4;
+  game.mob(1).gun = 5;
+  give(game, 1, option.substr(0, option.find(' ')), 1);
+  if (option.find(' ') != std::string::npos) give(game, 1, option, 1);
+}
+
+// "Move (N)": an option, and what is answered to its question for a direction.
+struct AnsweredOption {
+  std::string option;
+  std::string answer;
+};
+
+inline AnsweredOption readorder(const std::string& what) {
+  const auto bracket = what.find(" (");
+  if (bracket == std::string::npos) return {what, ""};
+  return {what.substr(0, bracket), what.substr(bracket + 2, 1)};
 }
 
 inline std::string described(const Mob& mob) {

@@ -4,26 +4,10 @@
 #include "campaignkeys.h"
 #include "cases.h"
 #include "ground.h"
+#include "world/whostands.h"
 
 namespace duskmarch {
 namespace {
-
-// "leads" and "comes2" are understood as well, and in plans "_" stands for a space.
-void arrangeplans(Game& game, const std::string& ground) {
-  arrange(game, ground);
-  std::istringstream parts(ground);
-  int slot = 0;
-  for (std::string part; std::getline(parts, part, '|');) {
-    if (++slot > game.mobcount) break;
-    Mob& mob = game.mob(slot);
-    if (part.find(" leads") != std::string::npos) mob.mobtype = mobtype::gifted;
-    if (const auto at = part.find(" comes"); at != std::string::npos) {
-      mob.spawntime = part[at + 6] - '0';
-    }
-    mob.maxfight = 4;
-    std::ranges::replace(mob.action, '_', ' ');
-  }
-}
 
 int codeof(const std::string& name) {
   if (name == "Enter") return key::enter;
@@ -34,7 +18,8 @@ TEST(PlayerKeys, TellInAMission) {
   for (const Case& c : readcases("playerkeys.txt")) {
     Player player;
     Game& game = player.game();
-    arrangeplans(game, c.before);
+    arrange(game, c.before);
+    for (Mob& mob : everyone(game)) mob.maxfight = 4;
     game.missionunderway = true;
     game.missionnumber = 9;
     game.menuname = screen::map;
