@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 #include <deque>
 #include <filesystem>
 #include <memory>
@@ -113,6 +114,18 @@ struct SummaryText {
   std::string text() const;
 };
 
+namespace cue {
+enum Id : std::uint8_t;  // see audio/cuetable.h
+}
+
+// Something that sounds, and where on the map; see heard().
+struct Sounding {
+  cue::Id cue;
+  bool placed = false;  // else everywhere
+  int x = 0;
+  int y = 0;
+};
+
 // Where key presses go.
 enum class Focus { window, summarylabel, storylabel, helplabel };
 
@@ -181,6 +194,10 @@ struct Game {  // NOLINT(clang-analyzer-optin.performance.Padding)
   std::array<double, 630> sintable{};
   std::array<double, 630> costable{};
   Music music;
+  std::vector<Sounding> soundings;  // what happened and is not told yet, in its order
+  std::vector<Cue> cues;            // the same, made ready to be played
+  std::string_view ambience;        // the loop that is heard
+  int soundlisted = -1;             // where one is on the page of sounds; -1 while it is closed
 
   // Menus and the campaign.
   int menuname = 0;

@@ -14,27 +14,6 @@ namespace {
 
 constexpr auto question = "Enter N S E W to choose your direction, or leave blank to cancel.";
 
-// Vesper is in slot 1 and acts, with a full skill of 4, a gun of 5, and one use of the ability.
-void arrangefor(Game& game, const std::string& ground, const std::string& option) {
-  arrange(game, ground);
-  game.mob(1).maxfight = 4;
-  game.mob(1).gun = 5;
-  give(game, 1, option.substr(0, option.find(' ')), 1);
-  if (option.find(' ') != std::string::npos) give(game, 1, option, 1);
-}
-
-// "Move (N)": an option, and what is answered to its question for a direction.
-struct Order {
-  std::string option;
-  std::string answer;
-};
-
-Order readorder(const std::string& what) {
-  const auto bracket = what.find(" (");
-  if (bracket == std::string::npos) return {what, ""};
-  return {what.substr(0, bracket), what.substr(bracket + 2, 1)};
-}
-
 class Abilities : public testing::TestWithParam<Case> {};
 
 TEST_P(Abilities, ChangeAndTellWhatTheirRuleSays) {
@@ -131,7 +110,7 @@ TEST(CommonEnding, SettlesWhoIsHeldAndWhatIsLeftToDo) {
 TEST(CommonEnding, SpeaksTheEmptyTextWhenNothingWasLoggedYet) {
   Player player;
   arrange(player.game(), "Vesper 2,2 20 4 | Table 2,2 1");
-  EXPECT_EQ(player.during([&] { dooption(player.game(), "Flip table"); }).at(0), "voice\t");
+  EXPECT_EQ(player.during([&] { dooption(player.game(), "Flip table"); }).at(1), "voice\t");
   EXPECT_EQ(tiletags(player.game(), 2, 2), "[Table]");
   for (const std::string option : {"No such option", "Kick Nobody", "Move Nowhere"}) {
     EXPECT_EQ(player.during([&] { dooption(player.game(), option); }).at(0), "voice\t");

@@ -21,7 +21,7 @@ void startmission(Player& player) {
 TEST(StartUp, FillsTheBuffersAndWelcomes) {
   Player player;
   EXPECT_EQ(player.events(),
-            (Lines{"rate\t2",
+            (Lines{"rate\t2", "ambience\tmenus-and-hideout",
                    "voice\tWelcome to Duskmarch, version 0.1 testing 3, by Quorvane.  "
                    "Main menu."}));
   EXPECT_EQ(player.game().bufferfile[49], "\\sounds\\menu\\arrows.wav");
@@ -49,17 +49,17 @@ TEST(Keyboard, ShiftEscapeAlsoReachesTheMainMenu) {
   Player player;
   startmission(player);
   EXPECT_EQ(player.press(key::escape, modifier::shift),
-            (Lines{"voice\tMain menu", "voice\tExit the game"}));
+            (Lines{"voice\tMain menu", "voice\tExit the game", "ambience\tmenus-and-hideout"}));
   EXPECT_EQ(player.game().menupos, 4);
   EXPECT_EQ(player.game().cursormode, 0);
 }
 
-TEST(Keyboard, TheCursorStopsAtTheEdgeInSilence) {
+TEST(Keyboard, TheCursorStopsAtTheEdgeWithABump) {
   Player player;
   startmission(player);
-  EXPECT_EQ(player.press(key::down), Lines{});
+  EXPECT_EQ(player.press(key::down), Lines{"cue\tmap-edge\t-40\t-200\t0"});
   EXPECT_EQ(player.spokenby(key::left), Lines{"A 5, "});
-  EXPECT_EQ(player.press(key::left), Lines{});
+  EXPECT_EQ(player.press(key::left), Lines{"cue\tmap-edge\t-80\t-200\t0"});
   EXPECT_EQ(player.spokenby(key::up), Lines{"A 4, 1 here.  Henchman Joe.  There is a Table here."});
 }
 

@@ -120,12 +120,12 @@ TEST(Missions, AVictoryIsPaidToldAndSaved) {
   EXPECT_TRUE(player.during([&] { endcheck(game); }).empty());  // two are yet to come
   game.turnnumber = 7;
   auto events = player.during([&] { endcheck(game); });
-  ASSERT_EQ(events.size(), 6U);
-  EXPECT_TRUE(events[2].starts_with("show\tstory\tA hard slap wakes Albert."));
-  events[2] = "page";
-  EXPECT_EQ(events, (Player::Events{"voice\t", "message\tVictory\tMission complete!", "page",
-                                    "voice\tVictory", "focus\tstory",
-                                    "play\t2\t0\t0\t0\tsounds/game/saved.wav"}));
+  ASSERT_EQ(events.size(), 7U);
+  EXPECT_TRUE(events[3].starts_with("show\tstory\tA hard slap wakes Albert."));
+  events[3] = "page";
+  EXPECT_EQ(events, (Player::Events{"cue\tvictory\t0\t0\t0", "voice\t",
+                                    "message\tVictory\tMission complete!", "page", "voice\tVictory",
+                                    "focus\tstory", "play\t2\t0\t0\t0\tsounds/game/saved.wav"}));
   EXPECT_EQ(game.mob(1).upgradepoints, 5);
   EXPECT_EQ(game.mob(1).earnedpoints, 11);
   EXPECT_EQ(game.mob(1).abilities[1].abilityuses, 2);
@@ -148,7 +148,8 @@ TEST(Missions, ADefeatGivesNothingBack) {
   game.mob(1).earnedpoints = 3;
   knockout(game, 1);
   game.menuname = screen::options;
-  const Player::Events defeat{"voice\t", "message\tDefeat\tMission failed!", "voice\tMain menu."};
+  const Player::Events defeat{"cue\tdefeat\t0\t0\t0", "voice\t", "message\tDefeat\tMission failed!",
+                              "voice\tMain menu."};
   EXPECT_EQ(player.during([&] { endcheck(game); }), defeat);
   EXPECT_EQ(game.mob(1).upgradepoints, 0);
   EXPECT_EQ(game.mob(1).abilities[1].abilityuses, 1);
@@ -156,7 +157,7 @@ TEST(Missions, ADefeatGivesNothingBack) {
   EXPECT_FALSE(game.missionunderway);
   // When nobody at all is left, the heroes have won.
   game.turnnumber = 3;
-  EXPECT_EQ(player.during([&] { endcheck(game); })[1], "message\tVictory\tMission complete!");
+  EXPECT_EQ(player.during([&] { endcheck(game); })[2], "message\tVictory\tMission complete!");
 }
 
 TEST(Missions, WithoutAPageThePlayerIsToldWhereHeIs) {
@@ -166,8 +167,8 @@ TEST(Missions, WithoutAPageThePlayerIsToldWhereHeIs) {
   for (int slot = 4; slot <= game.mobcount; ++slot) knockout(game, slot);
   game.turnnumber = 7;
   EXPECT_EQ(player.during([&] { endcheck(game); }),
-            (Player::Events{"voice\t", "message\tVictory\tMission complete!",
-                            "voice\tBack at the hideout."}));
+            (Player::Events{"cue\tvictory\t0\t0\t0", "voice\t",
+                            "message\tVictory\tMission complete!", "voice\tBack at the hideout."}));
   game.missionnumber = 4;
   EXPECT_EQ(player.during([&] { startusout(game); }),
             Player::Events{"voice\tMission 4 has not been written yet."});

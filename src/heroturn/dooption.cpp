@@ -4,6 +4,7 @@
 #include <optional>
 #include <string_view>
 
+#include "audio/cues.h"
 #include "heroturn/offers.h"
 #include "heroturn/optionlist.h"
 #include "resolution/melee.h"
@@ -94,6 +95,7 @@ bool perform(Game& game, const OptionLine& line, Direction direction) {
 
 void commonending(Game& game) {
   for (const Mob& mob : standing(game)) engagedcheck(game, slotof(game, mob));
+  playorder(game);
   sayit(game, game.list1.empty() ? std::string_view{} : game.list1.front());
   drawscreen(game);
   listoptions(game, 0);

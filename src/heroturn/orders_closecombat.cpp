@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <string>
 
+#include "audio/cues.h"
 #include "heroturn/abilitynumbers.h"
 #include "heroturn/messagelog.h"
 #include "heroturn/orders.h"
@@ -16,6 +17,7 @@ namespace duskmarch {
 void order::target(const Deed& deed) {
   const auto& [game, hero, foe, item, direction] = deed;
   hero.action = tag::fight;
+  heard(game, cue::targetchosen, foe);
   if (hastag(foe.status, tag::dazed)) {
     list1additem(game, sentence({hero.mobname, " crouches over ", foe.mobname, " preparing to hit ",
                                  himorher(foe.gender), " while he's down.  "}));
@@ -42,7 +44,8 @@ void order::combo(const Deed& deed) {
   } else {
     line = sentence({hero.mobname, " unleashes a series of attacks on ", foe.mobname, ".  "});
   }
-  line += exchangeblows(hero, foe, values);
+  heard(game, cue::combo, foe);
+  line += exchangeblows(game, hero, foe, values);
   list1additem(game, line);
 }
 
@@ -58,6 +61,9 @@ void order::headbutt(const Deed& deed) {
     creditknockout(hero);
   }
   addtag(foe.status, tag::dazed);
+  heard(game, cue::headbutt, foe);
+  hearddazingblow(game, foe, hero.maxfight);
+  heardblow(game, hero, number::headbuttcost);
   list1additem(game, line);
 }
 
@@ -74,6 +80,8 @@ void order::kick(const Deed& deed) {
   foe.target = 0;
   addtag(foe.status, tag::dazed);
   foe.health -= hero.fight;
+  heard(game, cue::kick, kicked.x, kicked.y);
+  hearddazingblow(game, foe, hero.fight);
   line += sentence({foe.mobname, " suffered ", std::to_string(hero.fight)});
   if (conscious(foe)) {
     line += " damage and is currently dazed.  ";
@@ -89,6 +97,7 @@ void order::dust(const Deed& deed) {
   foe.fight = std::max(foe.fight - number::dustskilllost, 0);
   hero.fight = std::min(hero.fight + number::dustskillwon, int{hero.maxfight});
   hero.action = tag::fight;
+  heard(game, cue::dust, foe);
   list1additem(game,
                sentence({hero.mobname, " blasts a puff of sand into ", foe.mobname,
                          "'s eyes, distracting ", himorher(foe.gender), " during the fight.  "}));

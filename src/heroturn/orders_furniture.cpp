@@ -1,6 +1,7 @@
 #include <string>
 #include <vector>
 
+#include "audio/cues.h"
 #include "heroturn/abilitynumbers.h"
 #include "heroturn/messagelog.h"
 #include "heroturn/orders.h"
@@ -20,21 +21,29 @@ void knockover(Mob& victim) {
   victim.action.clear();
 }
 
+void knockoverhurt(Game& game, Mob& victim, int damage) {
+  knockover(victim);
+  victim.health -= damage;
+  hearddazingblow(game, victim, damage);
+}
+
 }  // namespace
 
 void order::fliptable(const Deed& deed) {
   deed.item.itemhealth = 0;
+  heard(deed.game, cue::tableflipped, deed.hero);
   addtiletag(deed.game, deed.hero.mobx, deed.hero.moby, tag::table, 1);
 }
 
 void order::throwtable(const Deed& deed) {
   const auto& [game, hero, other, table, direction] = deed;
   const Tile landing = keptonthemap(game, step(tileof(hero), direction));
+  heard(game, cue::tablethrown, hero);
+  heard(game, cue::tablelanded, landing.x, landing.y);
   std::vector<std::string> hit;
   std::vector<std::string> knockedout;
   for (Mob& mob : standingon(game, landing, aliance::enemies)) {
-    knockover(mob);
-    mob.health -= tabledamage;
+    knockoverhurt(game, mob, tabledamage);
     hit.push_back(mob.mobname);
     if (conscious(mob)) continue;
     knockedout.push_back(mob.mobname);
@@ -55,9 +64,10 @@ void order::throwchair(const Deed& deed) {
   const auto& [game, hero, other, chair, direction] = deed;
   std::string line =
       sentence({hero.mobname, " grabs a chair and hurls it ", direction.word, ".  "});
+  heard(game, cue::chairthrown, hero);
   if (Mob* const victim = firstinline(game, tileof(hero), direction, aliance::enemies)) {
-    victim->health -= chairdamage;
-    knockover(*victim);
+    heard(game, cue::chairlanded, *victim);
+    knockoverhurt(game, *victim, chairdamage);
     line += sentence({victim->mobname, " was hit by it and suffered ", std::to_string(chairdamage),
                       " damage.  "});
     if (!conscious(*victim)) {
@@ -72,16 +82,20 @@ void order::throwchair(const Deed& deed) {
 void order::throwperson(const Deed& deed) {
   const auto& [game, hero, thrown, item, direction] = deed;
   const Tile landing = keptonthemap(game, step(tileof(hero), direction));
+  heard(game, cue::personthrown, hero);
+  heard(game, cue::personlanded, landing.x, landing.y);
   std::vector<std::string> victims;
   for (Mob& mob : standingon(game, landing, aliance::enemies)) {
     if (!mob.status.empty()) continue;
     knockover(mob);
+    heard(game, cue::dazed, mob);
     victims.push_back(mob.mobname);
   }
   place(thrown, landing);
   thrown.action.clear();
   thrown.target = 0;
   addtag(thrown.status, tag::dazed, number::throwndaze);
+  heard(game, cue::dazed, thrown);
   removeeverytag(thrown.status, tag::pinned);
   const std::string ending = " knocked over as " + thrown.mobname + " came crashing down.  ";
   list1additem(game, sentence({hero.mobname, " hurls ", thrown.mobname, " ", direction.word, ".  ",

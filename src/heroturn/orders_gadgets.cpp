@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "audio/cues.h"
 #include "heroturn/abilitynumbers.h"
 #include "heroturn/messagelog.h"
 #include "heroturn/orders.h"
@@ -37,6 +38,8 @@ void chokeenemies(Game& game, Tile tile, std::vector<std::string>& names) {
 void order::blast(const Deed& deed) {
   const auto& [game, hero, foe, item, direction] = deed;
   foe.health -= hero.gun;
+  heard(game, cue::blast, foe);
+  hearddazingblow(game, foe, hero.gun);
   std::string line =
       sentence({hero.mobname, " aims at ", foe.mobname, " and lets loose an energy blast, causing ",
                 std::to_string(hero.gun), " damage"});
@@ -54,6 +57,7 @@ void order::blast(const Deed& deed) {
 void order::bolas(const Deed& deed) {
   const auto& [game, hero, foe, item, direction] = deed;
   foe.fight = foe.fight / number::bolasdivisor;
+  heard(game, cue::bolas, foe);
   const std::string_view himher = himorher(foe.gender);
   list1additem(game, sentence({hero.mobname, " flings a bolas at ", foe.mobname,
                                ", binding and tying around ", himher, " and making it hard for ",
@@ -63,6 +67,7 @@ void order::bolas(const Deed& deed) {
 void order::net(const Deed& deed) {
   const auto& [game, hero, foe, item, direction] = deed;
   addtag(foe.status, tag::netted, number::netturns);
+  heard(game, cue::net, foe);
   list1additem(game,
                sentence({hero.mobname, " throws a net which twists and wraps around ", foe.mobname,
                          "'s legs, holding ", himorher(foe.gender), " in place.  "}));
@@ -71,14 +76,17 @@ void order::net(const Deed& deed) {
 void order::pin(const Deed& deed) {
   const auto& [game, hero, foe, item, direction] = deed;
   addtag(foe.status, tag::pinned, number::pinturns);
+  heard(game, cue::pin, foe);
   list1additem(game, sentence({hero.mobname, " throws a knife which stabs through ", foe.mobname,
                                "'s clothes and pins ", himorher(foe.gender), " to the wall.  "}));
 }
 
 void order::grapnel(const Deed& deed) {
   const auto& [game, hero, foe, item, direction] = deed;
+  heard(game, cue::grapnel, foe);
   place(foe, tileof(hero));
   foe.health -= number::grapneldamage;
+  hearddazingblow(game, foe, number::grapneldamage);
   foe.action.clear();
   addtag(foe.status, tag::dazed);
   std::string line =
@@ -99,6 +107,7 @@ void order::heal(const Deed& deed) {
   const auto& [game, hero, ally, item, direction] = deed;
   const int amount = std::min(ally.maxhealth - ally.health, number::healing);
   ally.health += amount;
+  heard(game, cue::heal, ally);
   std::string line = hero.mobname + " heals ";
   line += &ally == &hero ? sentence({himorher(hero.gender), "self"}) : ally.mobname;
   line += amount == 1 ? " for 1 point of health.  "
@@ -115,6 +124,7 @@ void order::shield(const Deed& deed) {
     ++allies;
   }
   addtag(hero.action, tag::shield);
+  heard(game, cue::shield, hero);
   const std::string_view his = hisorher(hero.gender);
   std::string line = sentence({hero.mobname, " raises ", his, " shield "});
   if (allies == 0) {
@@ -128,6 +138,7 @@ void order::shield(const Deed& deed) {
 
 void order::smokebombs(const Deed& deed) {
   const auto& [game, hero, other, item, direction] = deed;
+  heard(game, cue::smokebombs, hero);
   std::vector<std::string> names;
   for (int x = 1; x <= game.mapwidth; ++x) {
     for (int y = 1; y <= game.mapheight; ++y) {
@@ -149,6 +160,7 @@ void order::smokebombs(const Deed& deed) {
 void order::secondwind(const Deed& deed) {
   const auto& [game, hero, other, item, direction] = deed;
   hero.fight = hero.maxfight;
+  heard(game, cue::secondwind, hero);
   list1additem(game, sentence({hero.mobname, " has gained a burst of inner strength, putting ",
                                himorher(hero.gender), " back to full fighting capacity.  "}));
 }

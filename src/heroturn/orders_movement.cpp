@@ -1,6 +1,7 @@
 #include <string>
 #include <vector>
 
+#include "audio/cues.h"
 #include "heroturn/messagelog.h"
 #include "heroturn/orders.h"
 #include "resolution/tags.h"
@@ -32,6 +33,7 @@ void knockdown(Game& game, Tile tile, const Direction& direction, std::vector<st
     place(mob, keptonthemap(game, step(tile, direction)));
     addtag(mob.status, tag::dazed);
     mob.action.clear();
+    heard(game, cue::dazed, mob);
     names.push_back(mob.mobname);
   }
 }
@@ -40,6 +42,7 @@ void knockdown(Game& game, Tile tile, const Direction& direction, std::vector<st
 
 void order::move(const Deed& deed) {
   takeastep(deed);
+  heard(deed.game, cue::step, deed.hero);
   list1additem(deed.game,
                sentence({deed.hero.mobname, " moves to the ", deed.direction.word, ".  "}));
 }
@@ -47,6 +50,7 @@ void order::move(const Deed& deed) {
 void order::dive(const Deed& deed) {
   const auto& [game, hero, other, item, direction] = deed;
   takeastep(deed);
+  heard(game, cue::dive, hero);
   if (hero.engaged == 1) {
     list1additem(game, sentence({hero.mobname, " dives ", direction.word, ", out of a fight.  "}));
   } else if (hero.hasmoved == 0) {
@@ -61,6 +65,7 @@ void order::hook(const Deed& deed) {
   const auto& [game, hero, other, item, direction] = deed;
   rememberstart(hero, direction);
   const Tile start = tileof(hero);
+  heard(game, cue::hook, hero);
   const int reach = tilestotheedge(game, start, direction);
   std::vector<std::string> names;
   // From the edge inwards, so that nobody is pushed into the hook twice.

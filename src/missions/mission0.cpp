@@ -84,6 +84,7 @@ constexpr std::array<std::string_view, 3> endpage = {
 extern constinit const Mission mission0 = {
     .number = 0,
     .objective = "Invade the mobster meeting at the pool hall.",
+    .ambience = "pool-hall",
     .readyheroes = heroes,
     .start = {.paragraphs = startpage},
     .mapwidth = poolhall::mapwidth,

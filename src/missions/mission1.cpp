@@ -88,6 +88,7 @@ constexpr std::array<std::string_view, 3> endpage = {
 extern constinit const Mission mission1 = {
     .number = 1,
     .objective = "Defeat the punks at the tattoo parlor.",
+    .ambience = "tattoo-parlor",
     .start = {.paragraphs = startpage, .breakafterlast = false},
     .placements = placements,
     .mapwidth = 4,

@@ -70,6 +70,7 @@ constexpr std::array<std::string_view, 7> endpage = {
 extern constinit const Mission mission2 = {
     .number = 2,
     .objective = "Invade the mobster meeting at the pool hall.",
+    .ambience = "pool-hall",
     .start = {.paragraphs = startpage, .breakafterlast = false},
     .placements = placements,
     .mapwidth = poolhall::mapwidth,

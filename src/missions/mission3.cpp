@@ -27,6 +27,7 @@ constexpr std::array<std::string_view, 8> startpage = {
 extern constinit const Mission mission3 = {
     .number = 3,
     .objective = "Intercept the shipment at the dock.",
+    .ambience = "dock",
     .start = {.paragraphs = startpage, .breakafterlast = false},
     .placements = placements,
     .mapwidth = poolhall::mapwidth,

@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "audio/cues.h"
 #include "audio/sounds.h"
 #include "campaign/savegame.h"
 #include "heroturn/optionlist.h"
@@ -142,6 +143,7 @@ void finish(Game& game, const Ending& ending) {
 }
 
 void win(Game& game) {
+  playcue(game, cue::victory);
   announce(game, "Victory", "Mission complete!");
   for (Mob& mob : everyone(game)) {
     // Earned points are paid out again at every victory.
@@ -159,6 +161,7 @@ void win(Game& game) {
 }
 
 void lose(Game& game) {
+  playcue(game, cue::defeat);
   announce(game, "Defeat", "Mission failed!");
   game.menuname = screen::mainmenu;
   game.menupos = 0;
@@ -189,12 +192,21 @@ void endcheck(Game& game) {
   if (!remains(game, aliance::heroes)) lose(game);
 }
 
+std::string_view ambienceof(const Game& game) {
+  const bool fighting =
+      game.missionunderway && (game.menuname == screen::map || game.menuname == screen::options);
+  if (!fighting) return "menus-and-hideout";
+  const Mission* const mission = findmission(game.missionnumber);
+  return mission == nullptr ? std::string_view() : mission->ambience;
+}
+
 void storylabel_keydown(Game& game, KeyPress key) {
   if (key.keycode == key::ctrl) sayit(game, "");
   if (key.keycode != key::escape) return;
   hidestory(game);
   playeffect(game, "/sounds/Menu/previous.wav");
   if (game.menuname == screen::hideout) sayit(game, "Back at the hideout.");
+  if (game.menuname == screen::map) playcue(game, cue::heroesturn);
 }
 
 }  // namespace duskmarch

@@ -1,6 +1,8 @@
 // The frame that every mission shares.
 #pragma once
 
+#include <string_view>
+
 #include "game.h"
 
 namespace duskmarch {
@@ -10,6 +12,9 @@ namespace duskmarch {
 void startusout(Game& game);
 // Decides victory and defeat; called each time the turn summary is closed during a mission.
 void endcheck(Game& game);
+// The loop of the place where the player is: a mission's or that of menus and hideout. Empty where
+// there is none.
+std::string_view ambienceof(const Game& game);
 // The keys of the story page.
 void storylabel_keydown(Game& game, KeyPress key);
 

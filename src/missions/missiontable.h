@@ -64,6 +64,7 @@ struct Ending {
 struct Mission {
   int number = 0;
   std::string_view objective;
+  std::string_view ambience = {};  // the loop of its place, in the table of audio/cuetable.h
   std::span<const ReadyHero> readyheroes = {};  // any of these: the enemies follow right after
   Story start;
   std::span<const Placement> placements = {};

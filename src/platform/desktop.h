@@ -9,6 +9,7 @@
 #include <chrono>
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <span>
 #include <stdexcept>
@@ -168,30 +169,31 @@ class JawsApi {
 
 // A sound of a fight or of the map.
 struct Cue {
-  std::string_view name = {};       // in the table of cues
-  std::filesystem::path file = {};  // a WAV file
-  int pan = 0;                      // -100 (left) to 100 (right)
-  int pitch = 0;                    // hundredths of a semitone, -2400 to 2400
-  int delay = 0;                    // milliseconds from the call
-  int loudness = 0;                 // hundredths of a decibel, 0 or less
-  int weight = 0;                   // of too many at once the lightest go first
+  std::string_view name = {};  // in the table of cues
+  int pan = 0;                 // -100 (left) to 100 (right)
+  int pitch = 0;               // hundredths of a semitone, -2400 to 2400
+  int delay = 0;               // milliseconds from the call
+  int loudness = 0;            // hundredths of a decibel, 0 or less
+  int weight = 0;              // of too many at once the lightest go first
 };
+
+// Where the WAV file of a cue or of a loop should be.
+using FileOf = std::function<std::filesystem::path(std::string_view name)>;
 
 // Cues, sixteen at once, and one loop for the place where one is. Both have voices of their own
 // beside the numbered buffers and the music, and are softer while the game's own voice speaks.
-// A file is read when it is first asked for, and kept.
+// `fileof` is asked for a file when its name first comes up; what the file holds is kept.
 class CueDevice {
  public:
   virtual ~CueDevice() = default;
   // All delays count from one moment. A missing or bad file is silence: it is reported, after the
   // others have been started, the first time that it is asked for.
-  virtual void playcues(std::span<const Cue> cues) = 0;
+  virtual void playcues(std::span<const Cue> cues, const FileOf& fileof) = 0;
   // What has not begun never will; what sounds fades at once.
   virtual void stopcues() = 0;
-  // Fades from what is heard to the loop in `file`; an empty name means none. The loop that is
+  // Fades from what is heard to the loop of that name; an empty one means none. The loop that is
   // heard already goes on. A bad file means none, and is reported once.
-  virtual void setambience(std::string_view name, const std::filesystem::path& file,
-                           int loudness) = 0;
+  virtual void setambience(std::string_view name, int loudness, const FileOf& fileof) = 0;
   // 0 (silent) to 10 (as loud as the files are), two decibels a step. 10 until it is set.
   virtual void setcuevolume(int volume) = 0;
   virtual void setambiencevolume(int volume) = 0;

@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "audio/cues.h"
 #include "heroturn/messagelog.h"
 #include "heroturn/optionlist.h"
 #include "resolution/enemies.h"
@@ -82,9 +83,10 @@ void resolveplans(Game& game) {
 }
 
 // Takes one turn off a mob's daze; returns what is told of it.
-std::string shakeoffdaze(Mob& mob) {
+std::string shakeoffdaze(Game& game, Mob& mob) {
   removetag(mob.status, tag::dazed);
   if (hastag(mob.status, tag::dazed)) return mob.mobname + " lies dazed on the floor.  ";
+  heard(game, cue::freeagain, mob);
   return sentence(
       {mob.mobname, " shakes off some dizziness and gets to ", hisorher(mob.gender), " feet.  "});
 }
@@ -93,23 +95,25 @@ void moveandplan(Game& game) {
   for (Mob& mob : standing(game)) {
     std::string report;
     if (mob.aliance == aliance::enemies) report = walkandplan(game, slotof(game, mob));
-    if (hastag(mob.status, tag::dazed)) report = shakeoffdaze(mob);
+    if (hastag(mob.status, tag::dazed)) report = shakeoffdaze(game, mob);
     logreport(game, report);
   }
 }
 
-std::string strugglewithnet(Mob& mob) {
+std::string strugglewithnet(Game& game, Mob& mob) {
   removetag(mob.status, tag::netted);
   if (!hastag(mob.status, tag::netted)) {
+    heard(game, cue::freeagain, mob);
     return mob.mobname + " finally gets free of the net and tosses it aside.  ";
   }
   return sentence(
       {mob.mobname, " struggles to free ", himorher(mob.gender), "self from the net.  "});
 }
 
-std::string strugglewithknife(Mob& mob) {
+std::string strugglewithknife(Game& game, Mob& mob) {
   removetag(mob.status, tag::pinned);
   const bool free = !hastag(mob.status, tag::pinned);
+  if (free) heard(game, cue::freeagain, mob);
   return sentence({mob.mobname,
                    free ? " finally yanks out the knife that had "
                         : " struggles to pull out the knife that has ",
@@ -120,9 +124,9 @@ void struggle(Game& game) {
   for (Mob& mob : standing(game)) {
     if (mob.rested != 1) continue;
     if (hastag(mob.status, tag::netted)) {
-      list1additem(game, strugglewithnet(mob));
+      list1additem(game, strugglewithnet(game, mob));
     } else if (hastag(mob.status, tag::pinned)) {
-      list1additem(game, strugglewithknife(mob));
+      list1additem(game, strugglewithknife(game, mob));
     }
   }
 }
@@ -138,6 +142,7 @@ const Mob* heroatarrival(const Game& game, const Mob& mob) {
 
 void bringin(Game& game, Mob& mob) {
   mob.health = mob.maxhealth;
+  heard(game, cue::newcomer, mob);
   std::string line = mob.spawntext;
   replaceeverytag(line, "$N", mob.mobname);
   line += " Location " + location(mob.mobx, mob.moby);
@@ -164,6 +169,8 @@ void freshturn(Game& game) {
 }
 
 void closing(Game& game) {
+  if (!standing(game, aliance::heroes).empty()) heard(game, cue::heroesturn);
+  playendofturn(game);
   sayit(game, game.turnsummary);
   showsummary(game);
   focussummary(game);

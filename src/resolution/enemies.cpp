@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "audio/cues.h"
 #include "resolution/smoke.h"
 #include "resolution/tags.h"
 #include "world/chance.h"
@@ -41,10 +42,12 @@ std::string walk(Game& game, Mob& enemy) {
   if (enemy.target == 0 || hastargethere(game, enemy)) return {};
   Mob& target = game.mob(enemy.target);
   steptowards(game, enemy, target);
+  heard(game, cue::step, enemy);
   std::string report = sentence({enemy.mobname, " moves to ", location(enemy.mobx, enemy.moby)});
   if (sametile(enemy, target) && enemy.mobtype != mobtype::gifted) {
     target.engaged = 1;
     enemy.action = tag::fight;
+    heard(game, cue::targetchosen, target);
     report += sentence({" and engages ", target.mobname, " in a fight.  "});
   } else {
     report += ".  ";

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "audio/cues.h"
 #include "heroturn/messagelog.h"
 #include "heroturn/offers.h"
 #include "resolution/enemies.h"
@@ -25,17 +26,27 @@ void daze(Mob& hero) {
   addtag(hero.status, tag::dazed, dazeturns);
 }
 
+void dazehurt(Game& game, Mob& hero, int damage) {
+  daze(hero);
+  hero.health -= damage;
+  hearddazingblow(game, hero, damage);
+}
+
 void throwhero(const Deed& deed) {
   const auto& [game, thrower, thrown, item, direction] = deed;
   const Tile landing = step(tileof(thrower), direction);
+  heard(game, cue::personthrown, thrower);
+  heard(game, cue::personlanded, landing.x, landing.y);
   std::vector<std::string> knockedover;
   for (Mob& hero : standingon(game, landing, aliance::heroes)) {
     daze(hero);
+    heard(game, cue::dazed, hero);
     knockedover.push_back(hero.mobname);
   }
   removeeverytag(thrown.status, tag::pinned);
   daze(thrown);
   place(thrown, keptonthemap(game, landing));
+  heard(game, cue::dazed, thrown);
   const std::string crashed =
       sentence({" was knocked over as ", thrown.mobname, " came crashing down.  "});
   list1additem(game, sentence({thrower.mobname, " picks up ", thrown.mobname, " and throws ",
@@ -46,11 +57,12 @@ void throwhero(const Deed& deed) {
 void throwtable(const Deed& deed) {
   const auto& [game, thrower, nobody, table, direction] = deed;
   const Tile landing = step(tileof(thrower), direction);
+  heard(game, cue::tablethrown, thrower);
+  heard(game, cue::tablelanded, landing.x, landing.y);
   std::vector<std::string> knockedover;
   std::vector<std::string> knockedout;
   for (Mob& hero : standingon(game, landing, aliance::heroes)) {
-    daze(hero);
-    hero.health -= tabledamage;
+    dazehurt(game, hero, tabledamage);
     knockedover.push_back(hero.mobname);
     if (!conscious(hero)) knockedout.push_back(hero.mobname);
   }
@@ -70,16 +82,17 @@ void kick(const Deed& deed) {
   Mob* kicked = nullptr;
   for (Mob& hero : standingon(game, attacked, aliance::heroes)) kicked = &hero;
   place(kicker, keptonthemap(game, attacked));
+  heard(game, cue::kick, kicker);
   const std::string kicks =
       sentence({kicker.mobname, " jump kicked to the ", direction.word, ", "});
   if (kicked == nullptr) {
+    heard(game, cue::blowblocked, kicker);
     return list1additem(game,
                         sentence({kicks, "but missed ", hisorher(kicker.gender), " target.  "}));
   }
   Mob& hero = *kicked;
   place(hero, keptonthemap(game, step(attacked, direction)));
-  daze(hero);
-  hero.health -= kicker.fight;
+  dazehurt(game, hero, kicker.fight);
   list1additem(
       game, sentence({kicks, "knocking ", hero.mobname, " back and dazing ", himorher(hero.gender),
                       ".  ", hero.mobname, " suffered ", std::to_string(kicker.fight),
@@ -88,12 +101,13 @@ void kick(const Deed& deed) {
 
 void throwchair(const Deed& deed) {
   const auto& [game, thrower, nobody, chair, direction] = deed;
+  heard(game, cue::chairthrown, thrower);
   std::string report =
       sentence({thrower.mobname, " grabs a chair and hurls it ", direction.word, ".  "});
   if (Mob* const victim = firstinline(game, tileof(thrower), direction, aliance::heroes)) {
     Mob& hero = *victim;
-    hero.health -= chairdamage;
-    daze(hero);
+    heard(game, cue::chairlanded, hero);
+    dazehurt(game, hero, chairdamage);
     hero.action.clear();
     crash(chair, tileof(hero));
     report += sentence(

@@ -4,6 +4,7 @@
 #include <charconv>
 #include <vector>
 
+#include "audio/cues.h"
 #include "resolution/smoke.h"
 #include "resolution/tags.h"
 #include "values/namelist.h"
@@ -40,13 +41,17 @@ Shots shoot(Game& game, int damage, int x, int y) {
   Shots shots;
   for (Mob& mob : standingon(game, {x, y})) {
     if (hastag(mob.action, tag::shield)) {
+      if (shots.safe.empty()) heard(game, cue::gunhitcover, x, y);
       shots.safe.push_back(mob.mobname);
       continue;
     }
+    if (shots.hit.empty()) heard(game, cue::gunhitperson, x, y);
     shots.hit.push_back(mob.mobname);
     mob.health -= damage;
+    heardblow(game, mob, damage);
     if (!conscious(mob)) shots.dead.push_back(mob.mobname);
   }
+  if (shots.hit.empty() && shots.safe.empty()) heard(game, cue::gunmissed, x, y);
   return shots;
 }
 
@@ -102,14 +107,18 @@ std::string load(Game& game, Mob& gunman) {
       gunman.startx = gunman.mobx;
       gunman.starty = gunman.moby;
       place(gunman, tile);
+      heard(game, cue::step, gunman);
+      heard(game, cue::gunloaded, gunman);
       return sentence(
           {gunman.mobname, " moves to ", location(tile.x, tile.y), " and loaded ", his, " gun.  "});
     }
   }
+  heard(game, cue::gunloaded, gunman);
   return sentence({gunman.mobname, " loads ", his, " gun.  "});
 }
 
-std::string aim(const Game& game, Mob& gunman) {
+std::string aim(Game& game, Mob& gunman) {
+  heard(game, cue::gunaimed, gunman);
   const Mob& target = game.mob(gunman.target);
   replaceeverytag(gunman.action, tag::loaded, shootingtag(target.mobx, target.moby));
   return sentence({gunman.mobname, " aims ", hisorher(gunman.gender), " gun at ", target.mobname,
@@ -119,13 +128,16 @@ std::string aim(const Game& game, Mob& gunman) {
 std::string volley(Game& game, Mob& gunman) {
   const auto [x, y] = shootingtarget(gunman.action);
   replaceeverytag(gunman.action, shootingtag(x, y), tag::reload);
+  heard(game, cue::gunfired, gunman);
   const std::string where = location(x, y);
   if (hastag(tiletags(game, x, y), tag::smoke)) {
+    heard(game, cue::gunmissed, x, y);
     return sentence({gunman.mobname,
                      " unleashes a hail of bullets into the thick smoke at location ", where,
                      ", but hits nothing.  "});
   }
   if (hastag(tiletags(game, x, y), tag::table)) {
+    heard(game, cue::gunhitcover, x, y);
     return sentence({gunman.mobname, " unleashes a hail of bullets at location ", where,
                      ", but the overturned table absorbs the shots.  "});
   }

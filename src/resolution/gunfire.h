@@ -13,7 +13,7 @@ std::pair<int, int> shootingtarget(const std::string& action);
 
 // Each does one step of a gunman's work and returns its report.
 std::string load(Game& game, Mob& gunman);
-std::string aim(const Game& game, Mob& gunman);
+std::string aim(Game& game, Mob& gunman);
 std::string volley(Game& game, Mob& gunman);
 
 }  // namespace duskmarch

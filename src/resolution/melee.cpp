@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "audio/cues.h"
 #include "heroturn/messagelog.h"
 #include "resolution/tags.h"
 #include "world/knockout.h"
@@ -32,8 +33,9 @@ void exchanged(Mob& tiring, Mob& other) {
   other.rested = 0;
 }
 
-std::string blow(Mob& winner, Mob& loser, std::int64_t damage) {
+std::string blow(Game& game, Mob& winner, Mob& loser, std::int64_t damage) {
   loser.health -= damage;
+  heardblow(game, loser, damage);
   exchanged(winner, loser);
   const bool falls = !conscious(loser);
   if (falls) {
@@ -73,16 +75,17 @@ void engagedcheck(Game& game, int slot, std::span<const int> opponents) {
   mob.engaged = held ? 1 : 0;
 }
 
-std::string exchangeblows(Mob& attacker, Mob& defender, const FightValues& values) {
+std::string exchangeblows(Game& game, Mob& attacker, Mob& defender, const FightValues& values) {
   const std::int64_t damage = (damagefactor * (values.attacker - values.defender)).truncated();
   std::string report;
   if (damage > 0) {
-    report = blow(attacker, defender, damage);
+    report = blow(game, attacker, defender, damage);
     if (!conscious(defender)) creditknockout(attacker);
   } else if (damage < 0) {
-    report = blow(defender, attacker, -damage);
+    report = blow(game, defender, attacker, -damage);
   } else if (values.defender != Hundredths{}) {
     exchanged(attacker, defender);
+    heard(game, cue::blowblocked, defender);
     report = "  No damage is dealt.  ";
   }
   endaboveorat0(attacker.fight);
@@ -94,7 +97,7 @@ std::string meleeexchange(Game& game, int x) {
   Mob& attacker = game.mob(x);
   Mob& defender = game.mob(attacker.target);
   const FightValues values = calcfight(game, x);
-  return opening(attacker, defender, values) + exchangeblows(attacker, defender, values);
+  return opening(attacker, defender, values) + exchangeblows(game, attacker, defender, values);
 }
 
 void regainfightingpoints(Game& game) {

@@ -25,7 +25,7 @@ void engagedcheck(Game& game, int slot, std::span<const int> opponents);
 
 // What two fighting values do to each other: the stronger deals damage, whoever attacked in vain or
 // won tires, and a knockout earns an attacking hero a point. Returns the words that tell of it.
-std::string exchangeblows(Mob& attacker, Mob& defender, const FightValues& values);
+std::string exchangeblows(Game& game, Mob& attacker, Mob& defender, const FightValues& values);
 
 // One exchange of blows between mob `x` and its target at the end of turn; returns its report.
 std::string meleeexchange(Game& game, int x);

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "audio/cues.h"
 #include "heroturn/dooption.h"
 #include "heroturn/offers.h"
 #include "resolution/tags.h"
@@ -20,6 +21,7 @@ namespace {
 void putcursor(Game& game, Tile tile) {
   game.cursorx = tile.x;
   game.cursory = tile.y;
+  playcue(game, toneof(game, tile.x, tile.y), tile.x, tile.y);
   saytile(game, tile.x, tile.y);
   drawscreen(game);
 }

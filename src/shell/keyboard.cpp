@@ -6,6 +6,7 @@
 #include <exception>
 #include <string>
 
+#include "audio/cues.h"
 #include "audio/sounds.h"
 #include "campaign/menus.h"
 #include "campaign/savegame.h"
@@ -93,6 +94,18 @@ bool movecursor(Game& game, int keycode) {
   }
 }
 
+bool isarrow(int keycode) {
+  return keycode >= key::left && keycode <= key::down;
+}
+
+// An arrow on the map: a soft tone under the words, or the bump of its edge.
+void walkcursor(Game& game, int keycode) {
+  if (!movecursor(game, keycode)) return playcue(game, cue::mapedge, game.cursorx, game.cursory);
+  playcue(game, toneof(game, game.cursorx, game.cursory), game.cursorx, game.cursory);
+  saytile(game, game.cursorx, game.cursory);
+  drawscreen(game);
+}
+
 void opensummary(Game& game) {
   showsummary(game);
   sayit(game, "");
@@ -171,10 +184,7 @@ void windowkey(Game& game, KeyPress press) {
   }
   if (playerkey(game, press)) return;
   if (game.menuname != screen::map && isone(menukeys, press.keycode)) return menus(game, press);
-  if (game.cursormode == 1 && movecursor(game, press.keycode)) {
-    saytile(game, game.cursorx, game.cursory);
-    return drawscreen(game);
-  }
+  if (game.cursormode == 1 && isarrow(press.keycode)) return walkcursor(game, press.keycode);
   commonkey(game, press);
 }
 
@@ -210,12 +220,14 @@ void handlekey(Game& game, KeyPress press) {
 void handleguarded(Game& game, KeyPress press) {
   const int screenbefore = game.menuname;
   uncovermap(game);
+  stopcues(game);
   try {
     handlekey(game, press);
   } catch (const std::exception& error) {
     logerror(game, "keypress", error.what());
   }
   if (game.menuname != screenbefore) drawscreen(game);
+  if (game.focus != Focus::helplabel) setambience(game, ambienceof(game));  // it tries sounds out
 }
 
 }  // namespace

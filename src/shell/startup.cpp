@@ -4,10 +4,12 @@
 #include <system_error>
 #include <utility>
 
+#include "audio/cues.h"
 #include "audio/sounds.h"
 #include "debuglog.h"
 #include "heroturn/dooption.h"
 #include "heroturn/optionlist.h"
+#include "missions/missions.h"
 #include "resolution/endturn.h"
 #include "shell/speech/comfort.h"
 #include "shell/speech/guarded.h"
@@ -101,6 +103,8 @@ void startup(Game& game) {
                   std::to_string(game.sapirate) + ", sapiready " + std::to_string(game.sapiready) +
                   ", jawsready " + std::to_string(game.jawsready));
   startstate(game);
+  setcuevolumes(game);
+  setambience(game, ambienceof(game));
   sayit(game, "Welcome to Duskmarch, version " + game.version + ", by Quorvane.  Main menu.");
 }
 

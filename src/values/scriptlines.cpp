@@ -72,9 +72,11 @@ void appendescaped(std::string& out, std::string_view text) {
   std::size_t start = 0;
   for (std::size_t at = nextspecial(text, 0); at < text.size(); at = nextspecial(text, start)) {
     out.append(text, start, at - start);
-    out += '\\';
-    out += letterfor(text[at]);
-    start = at + 1;
+    for (; at < text.size() && letterfor(text[at]) != 0; ++at) {  // line breaks come in pairs
+      const std::array<char, 2> letter = {'\\', letterfor(text[at])};
+      out.append(letter.data(), letter.size());
+    }
+    start = at;
   }
   out.append(text, start);
 }

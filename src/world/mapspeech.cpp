@@ -79,6 +79,17 @@ void saytile(Game& game, int x, int y) {
   sayit(game, text);
 }
 
+cue::Id toneof(const Game& game, int x, int y) {
+  const bool heroes = !standingon(game, {x, y}, aliance::heroes).empty();
+  const bool enemies = !standingon(game, {x, y}, aliance::enemies).empty();
+  if (heroes) return enemies ? cue::tileboth : cue::tilehero;
+  if (enemies) return cue::tileenemy;
+  const std::string& tags = tiletags(game, x, y);
+  if (hastag(tags, tag::smoke)) return cue::tilesmoke;
+  const bool cover = hastag(tags, tag::table) || !furnitureon(game, {x, y}).empty();
+  return cover ? cue::tilefurniture : cue::tileempty;
+}
+
 void rollcallofheroes(Game& game) {
   rollcall(game, aliance::heroes, "No heroes found");
 }

@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "audio/cuetable.h"
 #include "game.h"
 #include "values/hundredths.h"
 #include "world/directions.h"
@@ -17,6 +18,8 @@ std::string location(int x, int y);
 std::string placename(Tile tile);
 // Speaks what is on a tile.
 void saytile(Game& game, int x, int y);
+// The soft tone of a tile: for people before smoke before furniture.
+cue::Id toneof(const Game& game, int x, int y);
 // Speak everyone of a side, or all furniture, with their places.
 void rollcallofheroes(Game& game);
 void rollcallofenemies(Game& game);

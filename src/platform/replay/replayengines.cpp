@@ -1,6 +1,7 @@
 #include "platform/replay/replayengines.h"
 
 #include <algorithm>
+#include <charconv>
 #include <fstream>
 
 #include "values/filelookup.h"
@@ -21,6 +22,25 @@ std::string beginning(const std::filesystem::path& file, std::size_t size) {
       static_cast<std::size_t>(stream.sgetn(bytes.data(), static_cast<std::streamsize>(size))));
   return bytes;
 }
+
+// Every end of turn has many of these: each is put together before it goes into the transcript.
+class CueLine {
+ public:
+  void add(std::string_view word) {
+    end_ = std::ranges::copy(word.substr(0, longestword), end_).out;
+  }
+  void addfield(int number) {
+    *end_++ = '\t';
+    end_ = std::to_chars(end_, end_ + longestnumber, number).ptr;
+  }
+  std::string_view text() const { return {bytes_.data(), end_}; }
+
+ private:
+  static constexpr std::size_t longestword = 40;
+  static constexpr std::size_t longestnumber = 11;
+  std::array<char, 2 * longestword + 3 * (1 + longestnumber)> bytes_;
+  char* end_ = bytes_.data();
+};
 
 }  // namespace
 
@@ -54,13 +74,17 @@ void ReplaySound::play(int buffer, bool loop) {
   transcript_.event("play", buffer, held.volume, held.pan, loop ? 1 : 0, held.name);
 }
 
-void ReplayCues::playcues(std::span<const Cue> cues) {
+void ReplayCues::playcues(std::span<const Cue> cues, const FileOf&) {
   for (const Cue& cue : cues) {
-    transcript_.event("cue", cue.name, cue.pan, cue.pitch, cue.delay);
+    CueLine line;
+    line.add("cue\t");
+    line.add(cue.name);
+    for (const int number : {cue.pan, cue.pitch, cue.delay}) line.addfield(number);
+    transcript_.line(line.text());
   }
 }
 
-void ReplayCues::setambience(std::string_view name, const std::filesystem::path&, int) {
+void ReplayCues::setambience(std::string_view name, int, const FileOf&) {
   if (name == ambience_) return;
   ambience_ = name;
   transcript_.event("ambience", name);

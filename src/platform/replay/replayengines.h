@@ -40,9 +40,9 @@ class ReplayJaws final : public JawsApi {
 class ReplayCues final : public CueDevice {
  public:
   explicit ReplayCues(Transcript& transcript) : transcript_(transcript) {}
-  void playcues(std::span<const Cue> cues) override;
+  void playcues(std::span<const Cue> cues, const FileOf&) override;
   void stopcues() override {}
-  void setambience(std::string_view name, const std::filesystem::path& file, int loudness) override;
+  void setambience(std::string_view name, int loudness, const FileOf&) override;
   void setcuevolume(int) override {}
   void setambiencevolume(int) override {}
 

@@ -19,10 +19,10 @@ void Transcript::addfield(std::string_view text) {
 }
 
 void Transcript::addfield(int number) {
-  std::array<char, 12> digits{};
-  const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
-  text_ += '\t';
-  text_.append(digits.data(), end);
+  std::array<char, 12> field;
+  field.front() = '\t';
+  const char* const end = std::to_chars(field.data() + 1, field.data() + field.size(), number).ptr;
+  text_.append(field.data(), static_cast<std::size_t>(end - field.data()));
 }
 
 }  // namespace duskmarch

@@ -34,12 +34,12 @@ MixedCues::~MixedCues() {
   mixer_->ambience().stop();
 }
 
-void MixedCues::playcues(std::span<const Cue> cues) {
+void MixedCues::playcues(std::span<const Cue> cues, const FileOf& fileof) {
   const std::uint64_t now = mixer_->now();
   std::vector<TimedSound> sounds;
   std::string problems;
   for (const Cue& cue : cues) {
-    SharedClip clip = clipof(cue.name, cue.file, problems);
+    SharedClip clip = clipof(cue.name, fileof, problems);
     if (!clip) continue;
     sounds.push_back({.clip = std::move(clip),
                       .start = now + framesof(cue.delay),
@@ -55,14 +55,13 @@ void MixedCues::stopcues() {
   mixer_->cues().stop();
 }
 
-void MixedCues::setambience(std::string_view name, const std::filesystem::path& file,
-                            int loudness) {
+void MixedCues::setambience(std::string_view name, int loudness, const FileOf& fileof) {
   if (name == ambience_) return;
   ambience_ = name;
   mixer_->ambience().stop();
   if (name.empty()) return;
   std::string problems;
-  if (SharedClip clip = clipof(name, file, problems)) {
+  if (SharedClip clip = clipof(name, fileof, problems)) {
     mixer_->ambience().start({{.clip = std::move(clip),
                                .start = mixer_->now(),
                                .levels = placed(loudness, 0),
@@ -79,17 +78,17 @@ void MixedCues::setambiencevolume(int volume) {
   mixer_->ambience().setlevel(levelof(volume));
 }
 
-MixedCues::SharedClip MixedCues::clipof(std::string_view name, const std::filesystem::path& file,
+MixedCues::SharedClip MixedCues::clipof(std::string_view name, const FileOf& fileof,
                                         std::string& problems) {
-  const auto [place, fresh] = clips_.try_emplace(file);
-  if (!fresh) return place->second;
+  if (const auto known = clips_.find(name); known != clips_.end()) return known->second;
+  SharedClip& clip = clips_[std::string(name)];
   try {
-    place->second = std::make_shared<const Clip>(readwav(file));
+    clip = std::make_shared<const Clip>(readwav(fileof(name)));
   } catch (const std::exception& error) {
     if (!problems.empty()) problems += "; ";
     problems += std::string(name) + ": " + error.what();
   }
-  return place->second;
+  return clip;
 }
 
 }  // namespace duskmarch

@@ -1,6 +1,7 @@
 // Cues and ambience on the mixer's timed voices.
 #pragma once
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <string>
@@ -18,20 +19,19 @@ class MixedCues final : public CueDevice {
   // Ends what sounds: nobody could end it after that.
   ~MixedCues() override;
 
-  void playcues(std::span<const Cue> cues) override;
+  void playcues(std::span<const Cue> cues, const FileOf& fileof) override;
   void stopcues() override;
-  void setambience(std::string_view name, const std::filesystem::path& file, int loudness) override;
+  void setambience(std::string_view name, int loudness, const FileOf& fileof) override;
   void setcuevolume(int volume) override;
   void setambiencevolume(int volume) override;
 
  private:
   using SharedClip = std::shared_ptr<const Clip>;
   // Null for a bad file; why it is bad is added to `problems` when it is first asked for.
-  SharedClip clipof(std::string_view name, const std::filesystem::path& file,
-                    std::string& problems);
+  SharedClip clipof(std::string_view name, const FileOf& fileof, std::string& problems);
 
   std::shared_ptr<Mixer> mixer_;
-  std::map<std::filesystem::path, SharedClip> clips_;  // null: the file is bad
+  std::map<std::string, SharedClip, std::less<>> clips_;  // by name; null: the file is bad
   std::string ambience_;
 };
 

@@ -1,0 +1,388 @@
+// What is heard of a fight: which cue, where, and when.
+#include "audio/cues.h"
+
+#include <functional>
+#include <set>
+
+#include "audio/soundlist.h"
+#include "draws.h"
+#include "ground.h"
+#include "harness.h"
+#include "heroturn/dooption.h"
+#include "missions/missions.h"
+#include "resolution/endturn.h"
+#include "resolution/enemies.h"
+#include "resolution/tags.h"
+#include "values/textfile.h"
+
+namespace duskmarch {
+namespace {
+
+// "step -26 100; dive 80 0": each cue with its pan and pitch. Cues that do not follow one another
+// by `gap` milliseconds from the first moment on have their delay behind them.
+std::string cuesof(const Player::Events& events, int gap = 120) {
+  std::string text;
+  int delay = 0;
+  for (const std::string& event : events) {
+    std::istringstream words(event);
+    std::string kind, name, pan, pitch;
+    int wait = 0;
+    if (!(words >> kind) || kind != "cue") continue;
+    words >> name >> pan >> pitch >> wait;
+    text += (text.empty() ? "" : "; ") + name + " " + pan + " " + pitch;
+    if (wait != delay) text += " after " + std::to_string(wait);
+    delay = wait + gap;
+  }
+  return text;
+}
+
+struct Scene {
+  std::string what;  // an option, an enemy's entry such as "[Kick North]", or "" for an end of turn
+  std::string ground;
+  std::string heard;
+  std::function<void(Game&)> before = [](Game&) {};
+};
+
+// On 4 columns pan is -80, -26, 26 and 80; on 3 rows pitch is 100, 0 and -100.
+std::string heardof(const Scene& scene) {
+  Player player;
+  Game& game = player.game();
+  const auto [option, answer] = readorder(scene.what);
+  arrangefor(game, scene.ground, option);
+  scene.before(game);
+  player.answer(answer);
+  if (scene.what.empty()) return cuesof(player.during([&] { endturn(game); }), 150);
+  if (scene.what.front() != '[') return cuesof(player.during([&] { dooption(game, option); }));
+  return cuesof(player.during([&] {
+    doenemyoption(game, game.mobcount, scene.what);
+    playendofturn(game);
+  }),
+                150);
+}
+
+void armed(Game& game) {
+  game.mob(2).gun = 4;
+}
+void loadingbystep(Game& game) {
+  willdraw(game, {{7, 2}});
+}
+void loadingwithout(Game& game) {
+  willdraw(game, {{7, 6}});
+}
+void comingnow(Game& game) {
+  game.mob(2).spawntime = 1;
+}
+std::function<void(Game&)> tagged(int x, int y, std::string_view tag) {
+  return [=](Game& game) { addtiletag(game, x, y, tag, 1); };
+}
+
+const std::vector<Scene>& scenes() {
+  static const std::vector<Scene> all = {
+      // Orders.
+      {"Move (n)", "Vesper 2,2 20 4", "step -26 100"},
+      {"Move (n)", "Vesper 2,1 20 4", ""},
+      {"Dive (w)", "Vesper 2,2 20 4", "dive -80 0"},
+      {"Hook (s)", "Vesper 2,1 20 4 | Tony 2,2 16 3", "hook -26 100; dazed -26 -100"},
+      {"Target Tony", "Vesper 2,2 20 4 | Tony 2,2 16 3", "target-chosen -26 0"},
+      {"Combo Tony", "Vesper 2,2 20 4 | Tony 2,2 99 3", "combo -26 0; hit-enemy -26 0"},
+      {"Combo Tony", "Vesper 2,2 20 4 | Tony 2,2 99 8", "combo -26 0; blow-blocked -26 0"},
+      {"Headbutt Tony", "Vesper 2,2 2 4 | Tony 2,2 16 3",
+       "headbutt -26 0; hit-enemy -26 0; dazed -26 0; hit-hero -26 0; hero-down -26 0"},
+      {"Kick Tony", "Vesper 2,2 20 4 | Tony 3,2 16 3", "kick 26 0; hit-enemy 80 0; dazed 80 0"},
+      {"Kick Tony", "Vesper 2,2 20 0 | Tony 3,2 16 3", "kick 26 0; blow-blocked 80 0; dazed 80 0"},
+      {"Dust Tony", "Vesper 2,2 20 4 | Tony 2,2 16 3", "dust -26 0"},
+      {"Pin Tony", "Vesper 2,1 20 4 | Tony 2,1 16 3", "pin -26 100"},
+      {"Blast Tony", "Vesper 2,2 20 4 | Tony 4,2 5 3",
+       "blast 80 0; hit-enemy 80 0; enemy-down 80 0"},
+      {"Bolas Tony", "Vesper 2,2 20 4 | Tony 4,2 16 3", "bolas 80 0"},
+      {"Net Tony", "Vesper 2,2 20 4 | Tony 4,2 16 3", "net 80 0"},
+      {"Grapnel Tony", "Vesper 2,2 20 4 | Tony 4,2 16 3",
+       "grapnel 80 0; hit-enemy -26 0; dazed -26 0"},
+      {"Heal Nora", "Vesper 2,2 20 4 | Nora 2,2 9 4", "heal -26 0"},
+      {"Heal Nora", "Vesper 2,2 20 4 | Nora 2,2 20 4", ""},
+      {"Shield", "Vesper 2,2 20 4 | Nora 2,2 9 4", "shield -26 0"},
+      {"Smoke bombs", "Vesper 2,2 20 4 | Tony 2,2 16 3", "smoke-bombs -26 0"},
+      {"Second wind", "Vesper 2,2 20 4", "second-wind -26 0"},
+      {"Flip table", "Vesper 2,2 20 4 | Table 2,2 1", "table-flipped -26 0"},
+      {"Throw table (e)", "Vesper 2,2 20 4 | Tony 3,2 6 3 | Moe 3,2 16 3 | Table 2,2 1",
+       "table-thrown -26 0; table-landed 26 0; hit-enemy 26 0; enemy-down 26 0; hit-enemy 26 0; "
+       "dazed 26 0"},
+      {"Throw chair (e)", "Vesper 2,2 20 4 | Tony 4,2 16 3 | Chair 2,2 1",
+       "chair-thrown -26 0; chair-landed 80 0; hit-enemy 80 0; dazed 80 0"},
+      {"Throw chair (w)", "Vesper 2,2 20 4 | Chair 2,2 1", "chair-thrown -26 0"},
+      {"Throw Tony (e)", "Vesper 2,2 20 4 | Tony 2,2 16 3 | Moe 3,2 16 3",
+       "person-thrown -26 0; person-landed 26 0; dazed 26 0; dazed 26 0"},
+      // What enemies do.
+      {"[Kick North]", "Vesper 2,2 20 4 | Tony 2,3 16 3",
+       "kick -26 0; hit-hero -26 100; dazed -26 100"},
+      {"[Kick North]", "Vesper 4,1 20 4 | Tony 2,3 16 3", "kick -26 0; blow-blocked -26 0"},
+      {"[Throw Vesper East]", "Vesper 2,2 20 4 | Nora 3,2 20 4 | Tony 2,2 16 3",
+       "person-thrown -26 0; person-landed 26 0; dazed 26 0; dazed 26 0"},
+      {"[Throw table East]", "Vesper 3,2 6 4 | Tony 2,2 16 3 | Table 2,2 1",
+       "table-thrown -26 0; table-landed 26 0; hit-hero 26 0; hero-down 26 0"},
+      {"[Throw table East]", "Vesper 3,2 6 4 | Tony 2,2 16 3", ""},
+      {"[Throw chair East]", "Vesper 4,2 20 4 | Tony 2,2 16 3 | Chair 2,2 1",
+       "chair-thrown -26 0; chair-landed 80 0; hit-hero 80 0; dazed 80 0"},
+      // Ends of turn.
+      {"", "Vesper 1,1 20 4 | Tony 1,3 16 3", "step -80 0; heroes-turn 0 0"},
+      {"", "Vesper 1,1 20 4 | Tony 1,2 16 3",
+       "step -80 100; target-chosen -80 100; heroes-turn 0 0"},
+      {"", "Vesper 2,2 20 4 t2 plans[Fight] | Tony 2,2 16 3", "hit-enemy -26 0; heroes-turn 0 0"},
+      {"", "Vesper 2,2 20 4 t2 plans[Fight] | Tony 2,2 16 4",
+       "blow-blocked -26 0; heroes-turn 0 0"},
+      {"", "Vesper 2,2 20 0 t2 plans[Fight] | Tony 2,2 16 0", "heroes-turn 0 0"},
+      {"", "Vesper 2,2 20 4 t2 plans[Fight] | Tony 2,2 4 3",
+       "hit-enemy -26 0; enemy-down -26 0; heroes-turn 0 0"},
+      {"", "Vesper 2,2 4 4 | Tony 2,2 16 5 plans[Fight]", "hit-hero -26 0; hero-down -26 0"},
+      {"", "Vesper 1,1 20 4 | Tony 4,3 16 3 [Dazed]", "free-again 80 -100; heroes-turn 0 0"},
+      {"", "Vesper 1,1 20 4 | Tony 4,3 16 3 [Netted]", "free-again 80 -100; heroes-turn 0 0"},
+      {"", "Vesper 1,1 20 4 | Tony 4,3 16 3 [Pinned]", "free-again 80 -100; heroes-turn 0 0"},
+      {"", "Vesper 1,1 20 4 | Tony 4,3 16 3 [Pinned][Pinned]", "heroes-turn 0 0"},
+      {"", "Vesper 1,1 20 4 | Tito 4,3 0 3 [Pinned]", "newcomer 80 -100; heroes-turn 0 0",
+       comingnow},
+      {"", "Vesper 1,1 20 4 | Tito 4,3 16 3 gun plans[Reload]",
+       "step 80 0; gun-loaded 80 0; heroes-turn 0 0", loadingbystep},
+      {"", "Vesper 1,1 20 4 | Tito 4,3 16 3 gun plans[Reload]",
+       "gun-loaded 80 -100; heroes-turn 0 0", loadingwithout},
+      {"", "Vesper 1,1 20 4 | Tito 4,3 16 3 gun plans[Loaded]",
+       "gun-aimed 80 -100; heroes-turn 0 0"},
+      {"", "Vesper 1,1 20 4 | Tito 4,3 16 3 gun plans[Shoot,1,1]",
+       "gun-fired 80 -100; gun-hit-person -80 100; hit-hero -80 100; heroes-turn 0 0", armed},
+      {"", "Vesper 1,1 20 4 plans[Shield] | Tito 4,3 16 3 gun plans[Shoot,1,1]",
+       "gun-fired 80 -100; gun-hit-cover -80 100; heroes-turn 0 0", armed},
+      {"", "Vesper 1,1 20 4 | Tito 4,3 16 3 gun plans[Shoot,1,1]",
+       "gun-fired 80 -100; gun-hit-cover -80 100; heroes-turn 0 0", tagged(1, 1, tag::table)},
+      {"", "Vesper 1,1 20 4 | Tito 4,3 16 3 gun plans[Shoot,1,1]",
+       "gun-fired 80 -100; gun-missed -80 100; smoke-gone -80 100; heroes-turn 0 0",
+       tagged(1, 1, tag::smoke)},
+      {"", "Vesper 1,1 20 4 | Tito 4,3 16 3 gun plans[Shoot,3,-99]",
+       "gun-fired 80 -100; gun-missed 26 100; heroes-turn 0 0"},
+  };
+  return all;
+}
+
+TEST(CuesOfAFight, AreThoseOfWhatHappensWhereItHappens) {
+  for (const Scene& scene : scenes()) {
+    EXPECT_EQ(heardof(scene), scene.heard) << scene.what << ": " << scene.ground;
+  }
+}
+
+// People before smoke before furniture, and the edge.
+struct CursorScene {
+  std::string ground;
+  std::string_view tag;
+  std::string heard;
+};
+const std::vector<CursorScene> cursorscenes = {
+    {"Vesper 2,2 20 4 | Table 2,2 1", "[Smoke]", "tile-hero -26 0"},
+    {"Tony 2,2 16 3 | Table 2,2 1", "[Smoke]", "tile-enemy -26 0"},
+    {"Tony 2,2 16 3 | Vesper 2,2 20 4", "", "tile-both -26 0"},
+    {"Tony 2,2 0 3 | Chair 2,2 1", "[Table][Smoke]", "tile-smoke -26 0"},
+    {"Chair 2,2 1", "", "tile-furniture -26 0"},
+    {"Chair 2,2 0", "[Table]", "tile-furniture -26 0"},
+    {"Chair 2,2 0", "", "tile-empty -26 0"},
+};
+
+TEST(CuesOfTheMap, ToneComesUnderTheWordsAndABumpAtTheEdge) {
+  for (const auto& [ground, tag, heard] : cursorscenes) {
+    Player player;
+    Game& game = player.game();
+    arrange(game, ground);
+    addtiletag(game, 2, 2, tag, 1);
+    game.menuname = screen::map;
+    game.cursormode = 1;
+    game.cursorx = 1;
+    game.cursory = 2;
+    const auto events = player.press(key::right);
+    EXPECT_EQ(cuesof(events), heard) << ground;
+    EXPECT_TRUE(events.at(0).starts_with("cue\t") && events.at(1).starts_with("voice\t")) << ground;
+    player.press(key::left);
+    EXPECT_EQ(player.press(key::left), Player::Events{"cue\tmap-edge\t-80\t0\t0"});
+    EXPECT_EQ(cuesof(player.press(key::m)), "") << "other keys have none";
+  }
+}
+
+TEST(CuesOfAFight, AreReachedEveryOne) {
+  std::string all = "victory defeat map-edge ";  // by the tests of missions and the one above
+  for (const Scene& scene : scenes()) all += heardof(scene) + " ";
+  for (const CursorScene& scene : cursorscenes) all += scene.heard + " ";
+  std::istringstream words(all);
+  const std::set<std::string> reached{std::istream_iterator<std::string>(words), {}};
+  for (const CueRow& row : cuetable()) {
+    EXPECT_TRUE(reached.contains(std::string(row.name))) << row.name;
+  }
+}
+
+TEST(CuesOfAFight, AreCentredInTheMiddleOfTheMapAndNeverQuiteAtOneSide) {
+  struct Place {
+    int width, height, x, y, pan, pitch;
+  };
+  const Place places[] = {{15, 15, 8, 8, 0, 0},       {15, 15, 1, 1, -80, 300},
+                          {15, 15, 15, 15, 80, -300}, {5, 3, 3, 1, 0, 100},
+                          {2, 2, 1, 2, -80, -50},     {1, 1, 1, 1, 0, 0},
+                          {0, 0, 7, 7, 0, 0},         {4, 3, -1000000000, 1000000000, -80, -100}};
+  for (const auto& [width, height, x, y, pan, pitch] : places) {
+    Player player;
+    player.game().mapwidth = width;
+    player.game().mapheight = height;
+    EXPECT_EQ(
+        player.during([&, x = x, y = y] { playcue(player.game(), cue::step, x, y); }),
+        Player::Events{"cue\tstep\t" + std::to_string(pan) + "\t" + std::to_string(pitch) + "\t0"});
+  }
+}
+
+// The cues of an end of turn at which all of these happened.
+Player::Events endwith(const std::vector<std::pair<cue::Id, int>>& happened) {
+  Player player;
+  for (const auto& [cue, times] : happened) {
+    for (int n = 0; n < times; ++n) heard(player.game(), cue);
+  }
+  return player.during([&] { playendofturn(player.game()); });
+}
+int countof(const Player::Events& events, const std::string& name) {
+  return static_cast<int>(std::ranges::count_if(
+      events, [&](const std::string& event) { return event.starts_with("cue\t" + name + "\t"); }));
+}
+int lastdelay(const Player::Events& events) {
+  return std::stoi(events.back().substr(events.back().rfind('\t') + 1));
+}
+
+TEST(CuesOfAnEndOfTurn, MoveTogetherWhereThereAreManyAndStepsGoFirst) {
+  EXPECT_EQ(lastdelay(endwith({{cue::step, 4}})), 450);
+  EXPECT_EQ(lastdelay(endwith({{cue::step, 13}})), 1800);
+  EXPECT_EQ(lastdelay(endwith({{cue::step, 31}})), 1800);
+  auto events = endwith({{cue::step, 50}, {cue::hithero, 3}, {cue::heroesturn, 1}});
+  EXPECT_EQ(events.size(), 41U);
+  EXPECT_EQ(countof(events, "step"), 37);
+  EXPECT_EQ(countof(events, "hit-hero"), 3);
+  EXPECT_TRUE(events.back().starts_with("cue\theroes-turn\t"));
+  EXPECT_EQ(lastdelay(events), 1800);
+  events =
+      endwith({{cue::hitenemy, 60}, {cue::step, 9}, {cue::enemydown, 20}, {cue::herodown, 30}});
+  EXPECT_EQ(countof(events, "step") + countof(events, "hit-enemy"), 0);
+  EXPECT_EQ(countof(events, "enemy-down"), 11);
+  EXPECT_EQ(countof(events, "hero-down"), 30);
+  events = endwith({{cue::hithero, 200}, {cue::victory, 1}});
+  EXPECT_EQ(countof(events, "hit-hero"), 200);
+  EXPECT_LE(lastdelay(events), 1800);
+}
+
+TEST(CuesOfAnEndOfTurn, StandTogetherJustBeforeTheLineThatSpeaksIt) {
+  Player player;
+  arrange(player.game(), "Vesper 1,1 20 4 | Tony 1,3 16 3 | Moe 4,1 16 3");
+  const auto events = player.during([&] { endturn(player.game()); });
+  const auto first = std::ranges::find_if(events, [](auto& e) { return e.starts_with("cue\t"); });
+  const auto after =
+      std::find_if(first, events.end(), [](auto& e) { return !e.starts_with("cue\t"); });
+  EXPECT_EQ(after - first, 3);
+  ASSERT_NE(after, events.end());
+  EXPECT_TRUE(after->starts_with("voice\t  -End of turn number 1.")) << *after;
+  EXPECT_EQ(cuesof(Player::Events(after, events.end())), "");
+}
+
+TEST(CuesOfAFight, TellThatTheFirstTurnBeginsWhenTheStoryIsClosed) {
+  Player player;
+  for (const int code : {key::down, key::down, key::enter}) player.press(code);
+  EXPECT_EQ(cuesof(player.press(key::escape)), "heroes-turn 0 0");
+}
+
+TEST(SoundSettings, AreSaidWithAnExampleAndKept) {
+  Player player;
+  const std::string example = "cue\thit-enemy\t0\t0\t0";
+  EXPECT_EQ(player.press(key::f3), (Player::Events{example, "voice\tSounds 6."}));
+  EXPECT_EQ(player.press(key::f4), (Player::Events{example, "voice\tSounds 7."}));
+  EXPECT_EQ(player.press(key::f6), Player::Events{"voice\tAmbience 5."});
+  EXPECT_EQ(player.press(key::f5), Player::Events{"voice\tAmbience 4."});
+  for (int n = 0; n < 12; ++n) {
+    player.press(key::f4);
+    player.press(key::f5);
+  }
+  EXPECT_EQ(player.spokenby(key::f4), std::vector<std::string>{"Sounds 10."});
+  EXPECT_EQ(player.spokenby(key::f5), std::vector<std::string>{"Ambience 0."});
+  Player again({.folder = player.folder().path});
+  EXPECT_EQ(again.spokenby(key::f3), std::vector<std::string>{"Sounds 9."});
+  EXPECT_EQ(again.spokenby(key::f6), std::vector<std::string>{"Ambience 1."});
+}
+
+TEST(SoundPage, PlaysTheSoundOfTheLineThatOneIsOn) {
+  Player player;
+  player.press(key::down);
+  const auto opened = player.press(key::f7);
+  EXPECT_TRUE(
+      opened.at(0).starts_with("show\thelp\tStep: somebody takes a step.\\r\\nTarget chosen"))
+      << opened.at(0);
+  const auto f7 = [&] {
+    const auto events = player.press(key::f7);
+    return events.empty() ? "" : events.front();
+  };
+  EXPECT_EQ(f7(), "cue\tstep\t0\t0\t0");
+  for (const int code : {key::down, key::down, key::right, key::end, key::home}) player.press(code);
+  EXPECT_EQ(f7(), "cue\tdive\t0\t0\t0");
+  for (const int code : {key::left, key::left}) player.press(code);
+  EXPECT_EQ(f7(), "cue\ttarget-chosen\t0\t0\t0");
+  player.press(key::pagedown);
+  EXPECT_EQ(f7(), "ambience\tdock");
+  EXPECT_EQ(player.press(key::escape),
+            (Player::Events{"hide\thelp", "play\t3\t0\t0\t0\tsounds/Menu/previous.wav",
+                            "voice\tStart new game", "ambience\tmenus-and-hideout"}));
+  for (const int page : {key::f1, key::l}) {
+    player.press(page);
+    EXPECT_EQ(f7(), "") << "F7 is for this page alone";
+    player.press(key::escape);
+  }
+}
+
+TEST(SoundPage, StandsInTheManual) {
+  std::istringstream lines(soundlist());
+  std::ostringstream manual;
+  manual << std::ifstream(SOURCE_FOLDER "/readme.txt").rdbuf();
+  std::string listed;
+  for (std::string line; std::getline(lines, line);)
+    listed += line.substr(0, line.find('\r')) + "\n";
+  EXPECT_TRUE(manual.str().ends_with("This is what it holds:\n\n" + listed));
+}
+
+// The last loop that was changed to; "-" where none was.
+std::string ambiencein(const Player::Events& events) {
+  std::string name = "-";
+  for (const std::string& event : events) {
+    if (event.starts_with("ambience\t")) name = event.substr(9);
+  }
+  return name;
+}
+
+TEST(Ambience, IsThatOfThePlaceAndToldWhenItChanges) {
+  Player player;
+  Game& game = player.game();
+  const auto press = [&](int code, int shift = 0) { return ambiencein(player.press(code, shift)); };
+  EXPECT_EQ(ambiencein(player.events()), "menus-and-hideout");
+  EXPECT_EQ(press(key::down), "-");
+  EXPECT_EQ(press(key::down), "-");
+  EXPECT_EQ(press(key::enter), "pool-hall");
+  EXPECT_EQ(press(key::escape), "-");
+  EXPECT_EQ(press(key::space), "-");
+  EXPECT_EQ(press(key::escape, modifier::shift), "menus-and-hideout");
+  EXPECT_EQ(press(key::l), "-");
+  EXPECT_EQ(press(key::enter), "pool-hall") << "L and Enter lead back into the mission";
+  for (Mob& mob : std::span(game.mobs).subspan(1)) mob.health = 0;
+  game.turnnumber = 99;
+  EXPECT_EQ(press(key::l), "-");
+  EXPECT_EQ(press(key::enter), "menus-and-hideout") << "the mission is over";
+}
+
+TEST(Ambience, IsNamedByEveryMissionAndThereIsNoneWithoutASetUp) {
+  const std::pair<int, std::string> places[] = {
+      {0, "pool-hall"}, {1, "tattoo-parlor"}, {2, "pool-hall"}, {3, "dock"}, {4, ""}};
+  for (const auto& [number, name] : places) {
+    Player player;
+    Game& game = player.game();
+    game.missionnumber = number;
+    game.menuname = screen::map;
+    startusout(game);
+    EXPECT_EQ(ambienceof(game), name);
+    EXPECT_TRUE(name.empty() || findambience(name) != nullptr) << name;
+  }
+}
+
+}  // namespace
+}  // namespace duskmarch
