@@ -3,7 +3,9 @@
 #include <array>
 #include <string>
 #include <string_view>
+#include <utility>
 
+#include "audio/soundlist.h"
 #include "audio/sounds.h"
 #include "campaign/menus.h"
 #include "shell/speech/keycodes.h"
@@ -46,6 +48,7 @@ void saywhereitis(Game& game) {
 }
 
 void closehelp(Game& game) {
+  game.soundlisted = -1;
   hidehelp(game);
   playeffect(game, "/sounds/Menu/previous.wav");
   saywhereitis(game);
@@ -61,18 +64,28 @@ std::string helptext(const Game& game, std::span<const PlayerKey> keys) {
   return text.append(ofpages);
 }
 
-}  // namespace
-
-void openhelp(Game& game, std::span<const PlayerKey> keys) {
-  game.helplabel = helptext(game, keys);
+void open(Game& game, std::string text) {
+  game.helplabel = std::move(text);
   showhelp(game);
   sayit(game, "");
   focushelp(game);
   game.desktop.window.processevents();
 }
 
+}  // namespace
+
+void openhelp(Game& game, std::span<const PlayerKey> keys) {
+  open(game, helptext(game, keys));
+}
+
+void opensounds(Game& game) {
+  open(game, soundlist());
+  game.soundlisted = 0;
+}
+
 void helplabel_keydown(Game& game, KeyPress press) {
   if (press.keycode == key::ctrl) sayit(game, "");
+  if (press.keycode == key::f7) playsoundline(game);
   if (press.keycode == key::escape) closehelp(game);
 }
 

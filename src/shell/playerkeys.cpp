@@ -88,6 +88,26 @@ void goback(Game& game, KeyPress /*press*/) {
   sayit(game, "F8 works in the main menu and in the hideout.");
 }
 
+void softercues(Game& game, KeyPress /*press*/) {
+  changecuevolume(game, -1);
+}
+
+void loudercues(Game& game, KeyPress /*press*/) {
+  changecuevolume(game, 1);
+}
+
+void softerambience(Game& game, KeyPress /*press*/) {
+  changeambiencevolume(game, -1);
+}
+
+void louderambience(Game& game, KeyPress /*press*/) {
+  changeambiencevolume(game, 1);
+}
+
+void listsounds(Game& game, KeyPress /*press*/) {
+  opensounds(game);
+}
+
 void othervoice(Game& game, KeyPress press) {
   changevoice(game, press.shift == modifier::shift ? -1 : 1);
 }
@@ -206,6 +226,36 @@ constexpr std::array keys = {
               .code = key::f2,
               .acts = onscreen::all,
               .act = shortenorlengthen},
+    PlayerKey{.keys = "F3",
+              .told = onscreen::all,
+              .does = "sounds of fights and of the map quieter; 0 is off",
+              .code = key::f3,
+              .acts = onscreen::all,
+              .act = softercues},
+    PlayerKey{.keys = "F4",
+              .told = onscreen::all,
+              .does = "the same louder; 10 is the most",
+              .code = key::f4,
+              .acts = onscreen::all,
+              .act = loudercues},
+    PlayerKey{.keys = "F5",
+              .told = onscreen::all,
+              .does = "the sound of the place quieter; 0 is off",
+              .code = key::f5,
+              .acts = onscreen::all,
+              .act = softerambience},
+    PlayerKey{.keys = "F6",
+              .told = onscreen::all,
+              .does = "the same louder; 10 is the most",
+              .code = key::f6,
+              .acts = onscreen::all,
+              .act = louderambience},
+    PlayerKey{.keys = "F7",
+              .told = onscreen::all,
+              .does = "a page with all sounds and what they mean; there F7 plays one",
+              .code = key::f7,
+              .acts = onscreen::all,
+              .act = listsounds},
     PlayerKey{.keys = "F11",
               .told = onscreen::all,
               .does = "the own voice's next voice; with Shift, the one before",

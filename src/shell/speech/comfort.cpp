@@ -5,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include "audio/cues.h"
 #include "shell/speech/guarded.h"
 #include "shell/speech/settingsfile.h"
 #include "shell/speech/speech.h"
@@ -41,14 +42,20 @@ std::size_t neighbour(std::size_t place, int step, std::size_t size) {
   return step > 0 ? (place + 1) % size : (place + size - 1) % size;
 }
 
+void changevolume(Game& game, int& volume, int step) {
+  volume = std::clamp(volume + step, 0, loudest);
+  setcuevolumes(game);
+  keepcomfort(game);
+}
+
 }  // namespace
 
 void readcomfort(Game& game) {
   const auto lines = readsettings(game, comfortfile, count, "readcomfort");
   if (!lines) return;
   game.fulldescriptions = setting((*lines)[descriptions], 0, 1).value_or(1) == 1;
-  game.cuevolume = setting((*lines)[cuevolume], 0, 10).value_or(game.cuevolume);
-  game.ambiencevolume = setting((*lines)[ambiencevolume], 0, 10).value_or(game.ambiencevolume);
+  game.cuevolume = setting((*lines)[cuevolume], 0, loudest).value_or(game.cuevolume);
+  game.ambiencevolume = setting((*lines)[ambiencevolume], 0, loudest).value_or(game.ambiencevolume);
   game.voicename = trim((*lines)[voice]);
   restorevoice(game);
 }
@@ -66,6 +73,17 @@ void toggledescriptions(Game& game) {
   game.fulldescriptions = !game.fulldescriptions;
   keepcomfort(game);
   sayit(game, game.fulldescriptions ? "Full descriptions." : "Short descriptions.");
+}
+
+void changecuevolume(Game& game, int step) {
+  changevolume(game, game.cuevolume, step);
+  playcue(game, cue::hitenemy);
+  sayit(game, "Sounds " + std::to_string(game.cuevolume) + ".");
+}
+
+void changeambiencevolume(Game& game, int step) {
+  changevolume(game, game.ambiencevolume, step);  // what is heard of the place is the example
+  sayit(game, "Ambience " + std::to_string(game.ambiencevolume) + ".");
 }
 
 void changevoice(Game& game, int step) {

@@ -1,5 +1,7 @@
 #include "shell/speech/selfreading.h"
 
+#include "audio/cues.h"
+#include "audio/soundlist.h"
 #include "shell/speech/keycodes.h"
 #include "shell/speech/speechengines.h"
 
@@ -39,6 +41,7 @@ void stopreading(Game& game) {
 }
 
 void caretmoved(Game& game, std::string_view text) {
+  tosoundline(game, text);
   game.pageread = orblank(text);
   read(game, game.pageread, Saying::atonce);
 }
@@ -48,6 +51,7 @@ void echotyped(Game& game, std::string_view text) {
 }
 
 void boxkey(Game& game, int keycode) {
+  stopcues(game);
   speechengine(game).keypressed(game);
   if (keycode == key::ctrl) speechengine(game).silence(game);
 }
