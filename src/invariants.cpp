@@ -2,8 +2,6 @@
 
 #include <string_view>
 
-#include "resolution/tags.h"
-
 namespace duskmarch {
 
 namespace {

@@ -6,6 +6,7 @@
 #include "debuglog.h"
 #include "platform/posix/sound/decodedmusic.h"
 #include "platform/sound/mixedsounds.h"
+#include "platform/voice/engines.h"
 #include "platform/voice/sharedvoice.h"
 #include "platform/voice/steadyspeech.h"
 

@@ -9,7 +9,7 @@
 #include "platform/desktop.h"
 #include "platform/qt/window.h"
 #include "platform/sound/soundoutput.h"
-#include "platform/voice/engines.h"
+#include "platform/voice/speechstream.h"
 
 namespace duskmarch {
 

@@ -7,7 +7,7 @@
 #include <string>
 
 #include "platform/files.h"
-#include "platform/sound/mixer.h"
+#include "platform/sound/clip.h"
 
 namespace duskmarch {
 

@@ -3,7 +3,7 @@
 
 #include <filesystem>
 
-#include "platform/sound/mixer.h"
+#include "platform/sound/clip.h"
 
 namespace duskmarch {
 

@@ -46,7 +46,7 @@ bool Resampler::feed(std::span<const std::int16_t> samples, bool last,
                      const SampleSink<float>& sink) {
   input_.resize(samples.size());
   std::ranges::transform(samples, input_.begin(),
-                         [&](std::int16_t sample) { return sample * scale_; });
+                         [&](std::int16_t sample) { return static_cast<float>(sample) * scale_; });
   SRC_DATA data{};
   data.data_in = input_.data();
   data.input_frames = static_cast<long>(input_.size());
