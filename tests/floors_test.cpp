@@ -1,5 +1,6 @@
 // The floors of README.md: every include stays on its floor or goes down, and none goes round in a
 // circle.
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <map>
@@ -21,7 +22,18 @@ const fs::path source = SOURCE_FOLDER;
 // What README.md puts on each floor: folders ("values/") and files without their endings.
 using Floors = std::map<std::string, int>;
 
-// Lines such as "  3  the fight    world/ heroturn/" between the two marks.
+// The folders and files in "  the fight    world/ heroturn/", after the floor's name, which two
+// spaces or more end.
+std::vector<std::string> listed(const std::string& floor) {
+  const std::size_t name = std::min(floor.find_first_not_of(' '), floor.size());
+  std::istringstream words(floor.substr(std::min(floor.find("  ", name), floor.size())));
+  std::vector<std::string> list;
+  for (std::string word; words >> word;) list.push_back(word);
+  EXPECT_FALSE(list.empty()) << "nothing is on the floor of" << floor;
+  return list;
+}
+
+// Lines of a number and a floor, between the two marks.
 Floors readfloors() {
   Floors floors;
   std::ifstream readme(source / "README.md");
@@ -30,13 +42,11 @@ Floors readfloors() {
     if (line.find("<!-- floors") != std::string::npos) inside = !inside;
     std::istringstream words(line);
     int floor = 0;
-    if (!inside || !(words >> floor)) continue;
-    for (std::string word; words >> word;) {
-      if (fs::exists(source / "src" / word) || fs::exists(source / "src" / (word + ".h"))) {
-        floors[word] = floor;
-      } else {
-        EXPECT_EQ(word.find('/'), std::string::npos) << word << " is not there";
-      }
+    if (!inside || !(words >> floor) || !std::getline(words, line)) continue;
+    for (const std::string& word : listed(line)) {
+      const std::string file = word.ends_with('/') ? word : word + ".h";
+      EXPECT_TRUE(fs::exists(source / "src" / file)) << word << " is not there";
+      floors[word] = floor;
     }
   }
   return floors;
