@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "game.h"
+#include "heroturn/abilitynumbers.h"
 #include "heroturn/orders.h"
 
 namespace duskmarch {
@@ -64,6 +65,7 @@ struct Order {
   Spends spends = Spends::theaction;
   void (&perform)(const Deed& deed);  // no row without it
   std::string_view description = {};  // of the ability, in the row of the same name
+  int gun = 0;  // whoever learns the ability and has none gets this one
 };
 
 // First what needs no ability, then the abilities in the order of the upgrade menu, those last that
@@ -161,7 +163,8 @@ inline constexpr std::array orders{
           .price = {.first = 10, .second = 5},
           .upon = upon::foeinreachofblast,
           .perform = order::blast,
-          .description = "A ranged blast causes damage, and can disarm enemies with guns."},
+          .description = "A ranged blast causes damage, and can disarm enemies with guns.",
+          .gun = number::blastgun},
     Order{.name = "Headbutt",
           .ability = "Headbutt",
           .price = {.first = 6, .second = 3},
