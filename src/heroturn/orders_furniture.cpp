@@ -62,18 +62,13 @@ void order::throwtable(const Deed& deed) {
 
 void order::throwchair(const Deed& deed) {
   const auto& [game, hero, other, chair, direction] = deed;
-  std::string line =
-      sentence({hero.mobname, " grabs a chair and hurls it ", direction.word, ".  "});
   heard(game, cue::chairthrown, hero);
+  std::string line = chairthrown(hero, direction);
   if (Mob* const victim = firstinline(game, tileof(hero), direction, aliance::enemies)) {
     heard(game, cue::chairlanded, *victim);
     knockoverhurt(game, *victim, chairdamage);
-    line += sentence({victim->mobname, " was hit by it and suffered ", std::to_string(chairdamage),
-                      " damage.  "});
-    if (!conscious(*victim)) {
-      line += victim->mobname + " was knocked unconscious by the impact.  ";
-      creditknockout(hero);
-    }
+    line += chairhit(*victim);
+    if (!conscious(*victim)) creditknockout(hero);
     crash(chair, tileof(*victim));
   }
   list1additem(game, line);

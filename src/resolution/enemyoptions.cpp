@@ -102,17 +102,14 @@ void kick(const Deed& deed) {
 void throwchair(const Deed& deed) {
   const auto& [game, thrower, nobody, chair, direction] = deed;
   heard(game, cue::chairthrown, thrower);
-  std::string report =
-      sentence({thrower.mobname, " grabs a chair and hurls it ", direction.word, ".  "});
+  std::string report = chairthrown(thrower, direction);
   if (Mob* const victim = firstinline(game, tileof(thrower), direction, aliance::heroes)) {
     Mob& hero = *victim;
     heard(game, cue::chairlanded, hero);
     dazehurt(game, hero, chairdamage);
     hero.action.clear();
     crash(chair, tileof(hero));
-    report += sentence(
-        {hero.mobname, " was hit by it and suffered ", std::to_string(chairdamage), " damage.  "});
-    if (!conscious(hero)) report += hero.mobname + " was knocked unconscious by the impact.  ";
+    report += chairhit(hero);
   }
   list1additem(game, report);
 }

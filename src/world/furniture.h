@@ -1,6 +1,8 @@
 // What thrown furniture does to whom it hits, and to itself.
 #pragma once
 
+#include <string>
+
 #include "game.h"
 #include "world/directions.h"
 
@@ -15,5 +17,9 @@ inline void crash(Item& item, Tile tile) {
   item.itemy = tile.y;
   item.itemhealth -= 1;
 }
+
+// How a chair's flight is told, and what it did to whom it hit.
+std::string chairthrown(const Mob& thrower, const Direction& direction);
+std::string chairhit(const Mob& victim);
 
 }  // namespace duskmarch
