@@ -41,6 +41,7 @@ inline constexpr int hero = 1;
 inline constexpr int ordinary = 2;
 inline constexpr int gunman = 3;
 inline constexpr int gifted = 4;  // an enemy with abilities of its own
+inline constexpr int last = gifted;
 }  // namespace mobtype
 
 namespace gender {

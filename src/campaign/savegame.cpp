@@ -76,7 +76,7 @@ void moblines(File& file, Mob& mob) {
   file.text(mob.mobname);
   file.number(mob.gender, {0, gender::genderless});
   file.number(mob.aliance, {0, aliance::enemies});
-  file.number(mob.mobtype, {0, mobtype::gifted});
+  file.number(mob.mobtype, {0, mobtype::last});
   file.number(mob.health);
   file.number(mob.maxhealth);
   file.number(mob.mobx, place);

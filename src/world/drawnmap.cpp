@@ -7,6 +7,7 @@
 #include "world/mapspeech.h"
 #include "world/narration.h"
 #include "world/tables.h"
+#include "world/whostands.h"
 
 namespace duskmarch {
 
@@ -82,15 +83,15 @@ void drawgrid(Canvas& canvas, const Game& game) {
 }
 
 Colour colouroftype(int type) {
-  static constexpr std::array<Colour, 5> colours{{
+  static constexpr auto colours = std::to_array<Colour>({
       white,
       {100, 255, 100},
       {200, 100, 100},
       {255, 180, 130},
       {255, 100, 180},
-  }};
-  return type >= mobtype::hero && type <= mobtype::gifted ? colours[static_cast<std::size_t>(type)]
-                                                          : white;
+  });
+  static_assert(colours.size() == mobtype::last + 1, "each type has its colour");
+  return type >= 0 && type <= mobtype::last ? colours[static_cast<std::size_t>(type)] : white;
 }
 
 Colour colourofside(const Game& game, int slot) {
@@ -122,9 +123,8 @@ void drawmob(Canvas& canvas, const Game& game, int slot) {
   write(canvas, place, insidetile(place, corner), mob.mobname, colourofside(game, slot));
 }
 
-void drawitem(Canvas& canvas, const Game& game, int slot) {
-  const Item& item = game.item(slot);
-  const int row = itemshere(game, slot, item.itemx, item.itemy);
+void drawitem(Canvas& canvas, const Game& game, const Item& item) {
+  const int row = itemshere(game, slotof(game, item), item.itemx, item.itemy);
   const Point corner = corneroftile(item.itemx, item.itemy);
   const Point place = {corner.x + 5, corner.y + 55 + (row - 1) * itemrow};
   write(canvas, place, insidetile(place, corner), "[" + item.itemname + "]");
@@ -140,12 +140,8 @@ void drawscreen(Game& game) {
   canvas->fill({0, mapstop, canvas->width(), canvas->height()}, black);
   if (game.menuname != screen::map && game.menuname != screen::options) return;
   drawgrid(*canvas, game);
-  for (int slot = 1; slot <= game.mobcount; ++slot) {
-    if (conscious(game.mob(slot))) drawmob(*canvas, game, slot);
-  }
-  for (int slot = 1; slot <= game.itemcount; ++slot) {
-    if (onthemap(game.item(slot))) drawitem(*canvas, game, slot);
-  }
+  for (const Mob& mob : standing(game)) drawmob(*canvas, game, slotof(game, mob));
+  for (const Item& item : furniture(game)) drawitem(*canvas, game, item);
 }
 
 }  // namespace duskmarch
