@@ -11,7 +11,6 @@
 #include <string_view>
 #include <vector>
 
-#include "audio/musicstate.h"
 #include "platform/desktop.h"
 #include "values/crashtrace.h"
 #include "values/filelookup.h"
@@ -125,6 +124,17 @@ struct Sounding {
   bool placed = false;  // else everywhere
   int x = 0;
   int y = 0;
+};
+
+inline constexpr int musicplayers = 2;
+
+// What the music players hold: two of them, numbered 0 and 1.
+struct Music {
+  std::array<std::unique_ptr<MusicGraph>, musicplayers> players;  // null until a file is loaded
+  std::array<std::string, musicplayers> mp3files;                 // what was last loaded
+  std::array<int, musicplayers> mp3volumes{};                     // and at which percentage
+  int musicoff = 0;     // 1: nothing is loaded, and player 0 does not start
+  int musicvolume = 0;  // the percentage where none is given
 };
 
 // Where key presses go.

@@ -65,7 +65,7 @@ struct Order {
   Spends spends = Spends::theaction;
   void (&perform)(const Deed& deed);  // no row without it
   std::string_view description = {};  // of the ability, in the row of the same name
-  int gun = 0;  // whoever learns the ability and has none gets this one
+  int gun = 0;                        // whoever learns the ability and has none gets this one
 };
 
 // First what needs no ability, then the abilities in the order of the upgrade menu, those last that
