@@ -7,6 +7,7 @@
 #include <samplerate.h>
 
 #include "platform/desktop.h"
+#include "platform/sound/audiosource.h"
 #include "platform/sound/regularfile.h"
 #include "platform/sound/wavreader.h"
 
