@@ -1,4 +1,5 @@
 // Every option of a hero, performed: what it changes, and the line that tells of it.
+#include <set>
 #include <string>
 #include <vector>
 
@@ -8,6 +9,7 @@
 #include "ground.h"
 #include "harness.h"
 #include "heroturn/dooption.h"
+#include "heroturn/offers.h"
 
 namespace duskmarch {
 namespace {
@@ -35,6 +37,14 @@ TEST_P(Abilities, ChangeAndTellWhatTheirRuleSays) {
 
 INSTANTIATE_TEST_SUITE_P(Options, Abilities, testing::ValuesIn(readcases("abilities.txt")),
                          nameofcase);
+
+TEST(Abilities, HaveACaseForEachOrder) {
+  std::set<std::string_view> tried;
+  for (const Case& c : readcases("abilities.txt")) {
+    if (const Order* order = readoption(readorder(c.what).option).order) tried.insert(order->name);
+  }
+  for (const Order& order : orders) EXPECT_TRUE(tried.contains(order.name)) << order.name;
+}
 
 // The question for a direction, and what is refused.
 
