@@ -32,7 +32,7 @@ TEST(Cycleme, MovesAndKeepsToTheList) {
 TEST(OptionsMenu, ExplainsAbilitiesAndNothingElse) {
   Player player;
   player.game().menuname = screen::options;
-  player.game().list2 = {"Hook", "Throw chair", "Dust Ann", "Net Ann", "Flip table"};
+  player.game().list2 = {"Hook", "Throw chair", "Dust Ann", "Net Ann", "Flip table", "Target Ann"};
   expectspoken(player,
                {{key::down,
                  "Hook.  Moves the hero to that edge of the map, stunning any enemies hit along "
@@ -43,7 +43,8 @@ TEST(OptionsMenu, ExplainsAbilitiesAndNothingElse) {
                 {key::down, "Dust Ann.  The fighting ability of the target is greatly reduced."},
                 {key::down, "Net Ann"},
                 {key::escape, "Net Ann"},
-                {key::down, "Flip table"}});
+                {key::down, "Flip table"},
+                {key::down, "Target Ann"}});
   player.game().list2.clear();
   for (const int keycode : {key::enter, key::r, key::escape, key::up}) {
     expectspoken(player, {{keycode,

@@ -79,6 +79,7 @@ TEST(Speech, HistoryIsReviewedWithoutGrowing) {
 TEST(Speech, TabWalksTheEnginesAndSavesEach) {
   Player player;
   EXPECT_EQ(player.press(key::tab), Lines{"play\t2\t0\t0\t0\tsounds/Menu/NVDA.wav"});
+  EXPECT_EQ(player.game().bufferfile[2], "/sounds/Menu/NVDA.wav");
   EXPECT_EQ(player.folder().read("progress.ini"), " 1 \r\n 2 \r\n\r\n");
   EXPECT_EQ(player.press(key::tab), Lines{"play\t3\t0\t0\t0\tsounds/Menu/WE.wav"});
   EXPECT_EQ(player.press(key::tab),
@@ -102,6 +103,8 @@ TEST(Speech, TheRateStaysWithinBounds) {
   player.game().sapirate = 1;
   EXPECT_EQ(player.press(key::pagedown), (Lines{"rate\t1", "voice\tSapi rate changed to 1."}));
   EXPECT_EQ(player.folder().read("progress.ini"), " 0 \r\n 1 \r\n\r\n");
+  player.game().speechmode = speechmode::nvda;
+  EXPECT_EQ(player.press(key::pageup), (Lines{"rate\t2", "title\tSapi rate changed to 2."}));
   Player mute({.voice = false});
   EXPECT_EQ(mute.press(key::pageup), Lines{"title\tSapi rate changed to 3."});
 }
