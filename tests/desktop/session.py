@@ -43,13 +43,10 @@ class Session:
         self.children = []
         try:
             self.set_environment()
-            os.environ["DISPLAY"] = ":" + self.answer_of(
-                "Xvfb", "-displayfd", "{}", "-screen", "0", "1400x800x24", "-nolisten", "tcp")
+            self.start_display()
             os.environ["DBUS_SESSION_BUS_ADDRESS"] = self.answer_of(
                 "dbus-daemon", "--session", "--nofork", "--print-address={}")
-            managed = self.folder / "managed"  # a window that came sooner would not get the focus
-            self.start("openbox", "--sm-disable", "--startup", f"touch {managed}")
-            wait(managed.exists, "the window manager")
+            self.start_manager()
         except BaseException as error:
             self.__exit__(type(error), error, None)
             raise
@@ -77,6 +74,15 @@ class Session:
         os.environ.update(PATH=path, HOME=str(home), XDG_RUNTIME_DIR=str(run), LANG="C.UTF-8",
                           GSETTINGS_BACKEND="memory", SDL_AUDIODRIVER="dummy")
 
+    def start_display(self):
+        os.environ["DISPLAY"] = ":" + self.answer_of(
+            "Xvfb", "-displayfd", "{}", "-screen", "0", "1400x800x24", "-nolisten", "tcp")
+
+    def start_manager(self):
+        managed = self.folder / "managed"  # a window that came sooner would not get the focus
+        self.start("openbox", "--sm-disable", "--startup", f"touch {managed}")
+        wait(managed.exists, "the window manager")
+
     def start(self, *command, **options):
         self.children.append(subprocess.Popen(
             command, stdin=subprocess.DEVNULL, stdout=self.log, stderr=self.log,
@@ -94,10 +100,36 @@ class Session:
         return line
 
 
+class WaylandSession(Session):
+    """One whose display is Wayland's, without X11."""
+
+    def start_display(self):
+        folder = self.folder / "display"
+        folder.mkdir(mode=0o700)
+        settings, named = folder / "settings", folder / "named"
+        settings.write_text(f'exec echo "$WAYLAND_DISPLAY" > {named}\n')
+        user = ()
+        if os.geteuid() == 0:  # it does not run for root
+            user = ("setpriv", "--reuid=nobody", "--regid=nogroup", "--clear-groups")
+            self.folder.chmod(0o711)
+            shutil.chown(folder, "nobody", "nogroup")
+        self.start(*user, "sway", "-c", str(settings), env=dict(
+            os.environ, XDG_RUNTIME_DIR=str(folder), LIBSEAT_BACKEND="noop",
+            WLR_BACKENDS="headless", WLR_LIBINPUT_NO_DEVICES="1", WLR_RENDERER="pixman"))
+        wait(lambda: named.exists() and named.read_text().endswith("\n"), "the display")
+        os.environ.update(WAYLAND_DISPLAY=str(folder / named.read_text().strip()),
+                          QT_QPA_PLATFORM="wayland")
+
+    def start_manager(self):
+        # The display manages itself. A window keeps the focus only while there is a keyboard.
+        self.start("wtype", "-s", str(3600 * 1000))
+
+
 class Reader:
     """What reaches a screen reader over the accessibility bus; and the player's hands."""
 
-    def __init__(self):
+    def __init__(self, presser=("xdotool", "key")):
+        self.presser = presser
         import gi  # here, because it looks for the session at once
         gi.require_version("Atspi", "2.0")
         from gi.repository import Atspi, GLib
@@ -137,7 +169,7 @@ class Reader:
 
     def press(self, *keys):
         for key in keys:
-            subprocess.run(["xdotool", "key", key], check=True, timeout=LIMIT)
+            subprocess.run([*self.presser, key], check=True, timeout=LIMIT)
 
     def expect(self, text, *keys):
         """Presses the keys; a title that begins with the text has to be announced for it."""
