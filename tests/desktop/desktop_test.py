@@ -39,6 +39,9 @@ def explore_and_move(reader):
     reader.expect("Move.  Moving is only allowed", "Down")
     reader.press("Return")
     reader.expect_window("dialog", "Choose direction")
+    reader.expect("Canceled.", "Escape")
+    reader.press("Return")
+    reader.expect_window("dialog", "Choose direction")
     reader.expect_focus("text", "Enter N S E W to choose your direction, or leave blank to cancel.")
     reader.expect("Nightjar moves to the North.", "n", "Return")
 
@@ -55,6 +58,13 @@ def end_the_turn(reader):
     reader.press("Down")
     reader.wait(lambda: reader.line() not in ("", first), "the line below")
     reader.expect("Nightjar selected at location B 4.", "Return")
+
+
+def behind_the_boxes(reader):
+    """What the window has to say when it is active again was said once."""
+    for text in ("Canceled.", "Nightjar moves to the North."):
+        assert reader.heard.count(text) == 1, reader.heard
+    assert "" not in reader.heard, reader.heard
 
 
 def leave(reader, game):
@@ -75,6 +85,7 @@ def main(build):
         read_the_story(reader)
         explore_and_move(reader)
         end_the_turn(reader)
+        behind_the_boxes(reader)
         leave(reader, game)
         errors = program.parent / "debuglog.txt"
         assert not errors.exists(), errors.read_text()
