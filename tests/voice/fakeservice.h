@@ -52,6 +52,9 @@ class FakeService {
   }
   // Takes connections, but ends each at its first text or command.
   void refuse(bool refusing) { refusing_ = refusing; }
+  // Answers everything, but says no text.
+  void refusetexts(bool refusing) { refusingtexts_ = refusing; }
+  int refusedtexts() const { return refusedtexts_; }
   int connections() const { return connections_; }
   void freeze(bool frozen) { frozen_ = frozen; }
   std::string path() const { return folder_ / "speechd.sock"; }
@@ -98,6 +101,11 @@ class FakeService {
     return true;
   }
   std::string answer(Client& client, const std::string& line) {
+    if (client.text && line == "." && refusingtexts_) {
+      client.text.reset();
+      ++refusedtexts_;
+      return "300 ERR INTERNAL\r\n";
+    }
     if (client.text && line == ".") {
       note(*std::exchange(client.text, std::nullopt));
       return "225-1\r\n225 OK MESSAGE QUEUED\r\n";
@@ -123,6 +131,8 @@ class FakeService {
   std::atomic<bool> alive_ = false;
   std::atomic<bool> frozen_ = false;
   std::atomic<bool> refusing_ = false;
+  std::atomic<bool> refusingtexts_ = false;
+  std::atomic<int> refusedtexts_ = 0;
   std::atomic<int> connections_ = 0;
   std::mutex mutex_;
   std::vector<std::string> asked_;

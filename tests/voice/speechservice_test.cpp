@@ -113,6 +113,30 @@ TEST_F(SpeechServiceTest, OneThatOnlyTakesConnectionsIsNotBack) {
   EXPECT_TRUE(eventually([&] { return !jaws_->lost(); }));
 }
 
+TEST_F(SpeechServiceTest, WhatItRefusesIsSaidLaterOrTakenBack) {
+  jaws_->saystring("One.");
+  EXPECT_TRUE(asked({"One."}));
+  service_.refusetexts(true);
+  for (const char* text : {"Two.", "Three."}) jaws_->saystring(text);
+  EXPECT_TRUE(eventually([&] { return !logged().empty(); }));
+  service_.refusetexts(false);
+  EXPECT_TRUE(asked({"One.", "Two.", "Three."}));
+  EXPECT_TRUE(eventually([&] { return !jaws_->stucksince(); }));
+
+  service_.refusetexts(true);
+  for (const char* text : {"Four.", "Five."}) jaws_->saystring(text);
+  const auto refusedagain = [&, before = service_.refusedtexts()](int times) {
+    return eventually([&] { return service_.refusedtexts() >= before + times; });
+  };
+  EXPECT_TRUE(refusedagain(1));
+  EXPECT_EQ(jaws_->giveup(), Texts({"Four.", "Five."}));
+  EXPECT_TRUE(refusedagain(3));
+  EXPECT_TRUE(jaws_->lost());
+  service_.refusetexts(false);
+  EXPECT_TRUE(eventually([&] { return !jaws_->lost(); })) << "nothing is given to it meanwhile";
+  EXPECT_EQ(loggedbutdelays(), Texts(2, "the speech service refused a text"));
+}
+
 TEST_F(SpeechServiceTest, AFrozenServiceIsReportedAndSpeaksAgain) {
   jaws_->saystring("One.");
   EXPECT_TRUE(asked({"One."}));

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <atomic>
+#include <functional>
 
 #include <gtest/gtest.h>
 
@@ -121,7 +122,9 @@ TEST_F(SteadySpeechTest, WhatAnEngineDoesNotSayTheVoiceDoes) {
     EXPECT_TRUE(eventually([&] { return !record_.texts().empty(); }));
     speech->saystring("Two.");
     EXPECT_EQ(record_.taken(), (Texts{"voice: Speech service lost.  One.", "voice: Two."}));
+    EXPECT_FALSE(speech->there());
     engine_.stuck = engine_.lost = false;
+    EXPECT_TRUE(speech->there());
     speech->saystring("Three.");
     EXPECT_EQ(record_.taken(), Texts{"engine: Three."});
   }
@@ -132,32 +135,75 @@ TEST_F(SteadySpeechTest, WithoutAnyVoiceTheTextIsAnError) {
   EXPECT_THROW(start(nullptr)->saystring("One."), PlatformError);
 }
 
-TEST_F(SteadySpeechTest, AServiceThatDiesIsReplacedUntilItIsBack) {
-  FakeService service;
-  service.start();
-  const SpeechLog nolog = [](std::string_view) {};
-  SteadySpeech speech([&] { return createspeechservice(nolog); }, voice(), nolog);
-  const auto heard = [&](const std::string& text) {
-    const Texts asked = service.asked();
+// The speech service itself, and its stand-in.
+class SteadyServiceTest : public testing::Test {
+ protected:
+  SteadyServiceTest() { service_.start(); }
+  std::unique_ptr<SteadySpeech> start(std::shared_ptr<Voice> voice) {
+    const auto make = [] { return createspeechservice([](std::string_view) {}); };
+    const auto log = [](std::string_view line) { ADD_FAILURE() << line; };
+    return std::make_unique<SteadySpeech>(make, std::move(voice), log);
+  }
+  bool heard(const std::string& text) {
+    const Texts asked = service_.asked();
     return std::ranges::find(asked, text) != asked.end();
-  };
+  }
   // Each try is a text of the voice, or the one that the service says.
-  const auto spokenbyservice = [&](const std::string& text) {
-    speech.interrupt();
-    speech.saystring(text);
-    return heard(text);
+  bool spokenbyservice(SteadySpeech& speech, const std::string& text) {
+    return eventually([&] {
+      speech.interrupt();
+      speech.saystring(text);
+      return heard(text);
+    });
+  }
+
+  FakeService service_;
+  Record record_;
+};
+
+struct Fault {
+  const char* name;
+  std::function<void(FakeService&)> begin;
+  std::function<void(FakeService&)> end;
+};
+
+TEST_F(SteadyServiceTest, WhileItSaysNothingTheVoiceSpeaks) {
+  const std::vector<Fault> faults = {
+      {"dead", [](FakeService& service) { service.kill(); },
+       [](FakeService& service) { service.start(); }},
+      {"refusing", [](FakeService& service) { service.refusetexts(true); },
+       [](FakeService& service) { service.refusetexts(false); }},
   };
-  EXPECT_TRUE(eventually([&] { return spokenbyservice("One."); }));
-  service.kill();
-  record_.taken();
-  speech.interrupt();
-  speech.saystring("Two.");
-  EXPECT_TRUE(eventually([&] { return !record_.texts().empty(); }));
-  speech.saystring("Three.");
-  EXPECT_EQ(record_.taken(), (Texts{"voice: Speech service lost.  Two.", "voice: Three."}));
-  service.start();
-  EXPECT_TRUE(eventually([&] { return spokenbyservice("Four."); }));
-  EXPECT_FALSE(heard("Two.") || heard("Three."));
+  const auto speech = start(std::make_shared<RecordedVoice>(record_));
+  for (const Fault& fault : faults) {
+    const std::string name = fault.name;
+    SCOPED_TRACE(name);
+    EXPECT_TRUE(spokenbyservice(*speech, "before it is " + name));
+    fault.begin(service_);
+    record_.taken();
+    speech->interrupt();
+    speech->saystring("first while " + name);
+    EXPECT_TRUE(eventually([&] { return !record_.texts().empty(); }));
+    speech->saystring("then while " + name);
+    EXPECT_EQ(record_.taken(), (Texts{"voice: Speech service lost.  first while " + name,
+                                      "voice: then while " + name}));
+    EXPECT_FALSE(speech->there());
+    fault.end(service_);
+    EXPECT_TRUE(spokenbyservice(*speech, "after it was " + name));
+    EXPECT_TRUE(speech->there());
+    EXPECT_FALSE(heard("first while " + name) || heard("then while " + name));
+  }
+}
+
+TEST_F(SteadyServiceTest, WithoutAnyVoiceItSaysTheTextWhenItIsBack) {
+  const auto speech = start(nullptr);
+  EXPECT_TRUE(spokenbyservice(*speech, "One."));
+  service_.kill();
+  speech->saystring("Two.");
+  EXPECT_TRUE(eventually([&] { return !speech->there(); }));
+  service_.start();
+  EXPECT_TRUE(eventually([&] { return heard("Two."); }));
+  EXPECT_TRUE(eventually([&] { return speech->there(); }));
 }
 
 }  // namespace

@@ -35,6 +35,7 @@ constexpr milliseconds retry{500};
 constexpr milliseconds farewell{300};
 // More texts than anyone would wait for; of longer queues the oldest are dropped.
 constexpr std::size_t longestqueue = 200;
+constexpr const char* unheard = " ";
 
 }  // namespace
 
@@ -48,7 +49,7 @@ struct SpeechService::Desk {
   std::optional<std::string> inhand;  // the text in the library's hands, while it is wanted
   bool cut = false;                   // what is being said is not wanted any more
   std::optional<Clock::time_point> stucksince;
-  bool away = false;     // the service was not there when it was last tried
+  bool away = false;     // when last tried the service was not there, or took no text
   bool givenup = false;  // and since then it has not been back
 
   // The number of the thread in charge, and of the last that has left. Threads that are not in
@@ -87,7 +88,9 @@ class SpeechService::Clerk {
   void hangup();
   void lose();
   void cancel();
+  std::string takenext();
   void saynext();
+  void refused();
 
   const std::shared_ptr<Desk> desk_;
   const unsigned number_;
@@ -156,7 +159,7 @@ void SpeechService::Clerk::work() {
       cancel();
     } else if (!connection_.isopen()) {
       open();
-    } else if (!desk_->texts.empty()) {
+    } else if (desk_->away || !desk_->texts.empty()) {
       saynext();
     }
   }
@@ -228,28 +231,38 @@ void SpeechService::Clerk::cancel() {
   const auto outcome = call([this] { return connection_.cancel(); });
   if (!incharge()) return;
   if (outcome == ServiceConnection::Outcome::lost) return lose();
-  desk_->progress();
+  if (!desk_->away) desk_->progress();  // to be quiet it may well agree, and yet say nothing
+}
+
+// A text that is not heard finds out whether the service takes texts again.
+std::string SpeechService::Clerk::takenext() {
+  if (desk_->texts.empty()) return unheard;
+  desk_->inhand = std::move(desk_->texts.front());
+  desk_->texts.pop_front();
+  return *desk_->inhand;
 }
 
 void SpeechService::Clerk::saynext() {
-  std::string text = std::move(desk_->texts.front());
-  desk_->texts.pop_front();
-  desk_->inhand = text;
+  const std::string text = takenext();
   const auto outcome = call([&] { return connection_.say(text); });
   if (!incharge()) return;
-  const bool wanted = std::exchange(desk_->inhand, std::nullopt).has_value();
-  if (outcome == ServiceConnection::Outcome::lost) {
-    if (wanted) desk_->texts.push_front(std::move(text));
-    return lose();
+  std::optional<std::string> wanted = std::exchange(desk_->inhand, std::nullopt);
+  if (outcome != ServiceConnection::Outcome::done && wanted) {
+    desk_->texts.push_front(std::move(*wanted));
   }
-  desk_->progress();
-  if (outcome == ServiceConnection::Outcome::refused) {
-    desk_->report("the speech service refused a text");
-    return;
-  }
+  if (outcome == ServiceConnection::Outcome::lost) return lose();
+  if (outcome == ServiceConnection::Outcome::refused) return refused();
   speaking_ = proven_ = maystart_ = true;
   desk_->limit = patience;
   desk_->reported = false;
+  desk_->progress();
+}
+
+void SpeechService::Clerk::refused() {
+  desk_->away = true;
+  desk_->report("the speech service refused a text");
+  // After a key there is another text, which it may take.
+  desk_->wake.wait_for(lock_, retry, [this] { return !incharge() || desk_->cut; });
 }
 
 SpeechService::SpeechService(SpeechLog log) : desk_(std::make_shared<Desk>()) {

@@ -35,7 +35,7 @@ void SteadySpeech::saystring(std::string_view text) {
   if (!made() || engine_->lost()) return sayinstead(text);
   told_ = false;
   engine_->saystring(text);
-  watching_ = true;
+  watching_ = ownvoice_ != nullptr;  // else the engine goes on trying
   wake_.notify_one();
 }
 
@@ -47,7 +47,7 @@ void SteadySpeech::interrupt() {
 
 bool SteadySpeech::there() {
   const std::lock_guard guard(mutex_);
-  return made();
+  return made() && !away();
 }
 
 bool SteadySpeech::made() {
@@ -58,6 +58,12 @@ bool SteadySpeech::made() {
     return false;  // which is told by the voice that speaks instead
   }
   return true;
+}
+
+bool SteadySpeech::away() {
+  if (engine_->lost()) return true;
+  const auto since = engine_->stucksince();
+  return since && LosableSpeech::Clock::now() >= *since + patience_;
 }
 
 void SteadySpeech::sayinstead(std::string_view text) {

@@ -22,7 +22,8 @@ class SteadySpeech final : public JawsApi {
   using Make = std::function<std::unique_ptr<LosableSpeech>()>;
 
   // `make` is called now and, while it fails, for each later text. `ownvoice` is called from any
-  // thread; null where there is none. An engine is away when it has got nowhere for `patience`.
+  // thread; null where there is none: an engine that is away keeps its texts then, and goes on
+  // trying. It is away when it has got nowhere for `patience`.
   SteadySpeech(Make make, std::shared_ptr<Voice> ownvoice, SpeechLog log,
                std::chrono::milliseconds patience = std::chrono::seconds(1));
   ~SteadySpeech() override;
@@ -30,11 +31,12 @@ class SteadySpeech final : public JawsApi {
   // Throws PlatformError when neither the engine nor the own voice can say it.
   void saystring(std::string_view text) override;
   void interrupt() override;
-  // Whether the engine is there, or could be made now. It may be away nevertheless.
+  // Whether the engine is there, or could be made now, and is not known to be away.
   bool there() override;
 
  private:
   bool made();
+  bool away();
   void sayinstead(std::string_view text);
   void takeover();
   void watch();
@@ -47,7 +49,7 @@ class SteadySpeech final : public JawsApi {
   std::mutex mutex_;  // for what follows
   std::condition_variable wake_;
   std::unique_ptr<LosableSpeech> engine_;
-  bool watching_ = false;  // the engine has been given something
+  bool watching_ = false;  // the own voice may have to say what the engine was given
   bool told_ = false;      // the player knows that it is away
   bool instead_ = false;   // the own voice may be speaking
   bool ending_ = false;
