@@ -23,13 +23,13 @@ LONG = ("I have enjoyed playing it, but I have been relying on visual input and 
 
 
 class Monitor:
-    """What reaches the sink, sample by sample, and when."""
+    """What reaches a sink, sample by sample, and when."""
 
-    def __init__(self):
+    def __init__(self, sink="bench"):
         self.samples, self.arrivals = [], []  # blocks; (time, samples up to then)
         self.total = 0
         self.source = subprocess.Popen(
-            ["parec", "--device=bench.monitor", "--raw", "--format=s16le", f"--rate={RATE}",
+            ["parec", f"--device={sink}.monitor", "--raw", "--format=s16le", f"--rate={RATE}",
              "--channels=1", "--latency-msec=2"], stdout=subprocess.PIPE)
         threading.Thread(target=self.read, daemon=True).start()
         wait(lambda: self.total > 0, "samples from the sink")
@@ -122,22 +122,22 @@ class Service:
         return moment
 
 
-def start_sound(session):
+def start_sound(session, *more_sinks):
     server = session.start(
         "pulseaudio", "-n", "--daemonize=no", "--exit-idle-time=-1",
-        "--load=module-null-sink sink_name=bench rate=48000", "--load=module-native-protocol-unix",
-        "--load=module-suspend-on-idle timeout=3600")
+        *(f"--load=module-null-sink sink_name={name} rate=48000" for name in ("bench", *more_sinks)),
+        "--load=module-native-protocol-unix", "--load=module-suspend-on-idle timeout=3600")
     wait(lambda: subprocess.run(["pactl", "info"], capture_output=True).returncode == 0, "pulse")
     os.environ.update(SDL_AUDIODRIVER="pulseaudio", PULSE_SINK="bench")
     return server
 
 
-def start_service(session):
+def start_service(session, program="speech-dispatcher"):
     """In the place where every program looks for it."""
     path = session.folder / "run" / "speech-dispatcher" / "speechd.sock"
     path.parent.mkdir(exist_ok=True)
     path.unlink(missing_ok=True)
-    process = session.start("speech-dispatcher", "--run-single", "--timeout=0",
-                  "--communication-method=unix_socket", f"--socket-path={path}")
+    process = session.start(program, "--run-single", "--timeout=0",
+                            "--communication-method=unix_socket", f"--socket-path={path}")
     wait(path.exists, "the speech service")
     return Service(path, process)
