@@ -54,11 +54,6 @@ bool canaim(const Game& game, const Mob& gunman) {
   return gunman.target != 0 && !insmoke(game, game.mob(gunman.target));
 }
 
-bool canfight(const Game& game, const Mob& mob) {
-  const Mob& foe = game.mob(mob.target);
-  return conscious(foe) && sametile(foe, mob) && foe.aliance != mob.aliance;
-}
-
 // Carries out what a mob planned; returns its report.
 std::string resolve(Game& game, Mob& mob) {
   std::string report;

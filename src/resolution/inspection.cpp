@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string_view>
 
+#include "resolution/melee.h"
 #include "resolution/planwords.h"
 #include "resolution/tags.h"
 #include "world/mapspeech.h"
@@ -33,7 +34,7 @@ std::string conditionsentences(const Mob& hero) {
 std::string fightsentences(const Game& game, const Mob& hero) {
   std::string text;
   if (hero.engaged == 1) text += "Held in a fight.  ";
-  if (hastag(hero.action, tag::fight) && hero.target != 0) {
+  if (hastag(hero.action, tag::fight) && canfight(game, hero)) {
     text += sentence({"Fighting ", game.mob(hero.target).mobname, ".  "});
   }
   if (hastag(hero.action, tag::shield)) text += "Shield up.  ";

@@ -64,6 +64,11 @@ FightValues calcfight(const Game& game, int z) {
           .defender = effectiveonitstile(game, game.mob(attacker.target), "")};
 }
 
+bool canfight(const Game& game, const Mob& mob) {
+  const Mob& foe = game.mob(mob.target);
+  return conscious(foe) && sametile(foe, mob) && foe.aliance != mob.aliance;
+}
+
 void engagedcheck(Game& game, int slot) {
   engagedcheck(game, slot, slotsagainst(game, game.mob(slot).aliance));
 }

@@ -17,6 +17,9 @@ struct FightValues {
 // The effective fighting values of mob `z` and of its target, which must be a conscious mob.
 FightValues calcfight(const Game& game, int z);
 
+// Whether a mob that plans to fight has its target within reach: else its fight is called off.
+bool canfight(const Game& game, const Mob& mob);
+
 // Recomputes whether a mob is held in a fight: some conscious, unhindered opponent with fighting
 // points left on its tile has planned to fight.
 void engagedcheck(Game& game, int slot);

@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "resolution/gunfire.h"
+#include "resolution/melee.h"
 #include "resolution/planentry.h"
 #include "resolution/tags.h"
 #include "values/namelist.h"
@@ -16,9 +17,11 @@ namespace {
 
 // A leader strikes no blow of its own: its plan only keeps others from walking off.
 std::string fightwords(const Game& game, const Mob& mob) {
-  if (mob.mobtype == mobtype::gifted) return "holds whoever shares the tile";
-  const Mob& foe = game.mob(mob.target);
-  return conscious(foe) ? "will fight " + foe.mobname : "will fight";
+  if (mob.mobtype == mobtype::gifted) {
+    return mob.fight > 0 ? "holds whoever shares the tile" : "holds nobody";
+  }
+  if (!canfight(game, mob)) return "has nobody here to fight";
+  return "will fight " + game.mob(mob.target).mobname;
 }
 
 std::string shootwords(const Mob& gunman) {
@@ -41,16 +44,23 @@ std::string entrywords(std::string_view entry) {
   return sentence({"plans to ", deed, " to the ", insmallletters(direction->word)});
 }
 
-}  // namespace
-
-std::string planwords(const Game& game, const Mob& mob) {
+std::vector<std::string> deedsplanned(const Game& game, const Mob& mob) {
   std::vector<std::string> plans;
   if (hastag(mob.action, tag::shootopening)) plans.push_back(shootwords(mob));
   if (hastag(mob.action, tag::loaded)) plans.emplace_back("will aim");
   if (hastag(mob.action, tag::reload)) plans.emplace_back("will load");
   if (hastag(mob.action, tag::fight)) plans.push_back(fightwords(game, mob));
-  if (hastag(mob.action, tag::shield)) plans.emplace_back("holds up a shield");
   if (std::string entry = entrywords(mob.action); !entry.empty()) plans.push_back(std::move(entry));
+  // Nothing of it happens before all conditions are gone.
+  if (!plans.empty() && !mob.status.empty()) plans.front().insert(0, "then ");
+  return plans;
+}
+
+}  // namespace
+
+std::string planwords(const Game& game, const Mob& mob) {
+  std::vector<std::string> plans = deedsplanned(game, mob);
+  if (hastag(mob.action, tag::shield)) plans.insert(plans.begin(), "holds up a shield");
   return joinnames(plans, "");
 }
 
