@@ -1,5 +1,6 @@
 #include "resolution/danger.h"
 
+#include <algorithm>
 #include <vector>
 
 #include "resolution/gunfire.h"
@@ -26,10 +27,8 @@ class Dangers {
  public:
   explicit Dangers(const Game& game) : game_(game) {}
 
-  void add(const Mob& enemy) {
-    if (!enemy.status.empty()) return;
-    if (hastag(enemy.action, tag::shootopening)) return addgun(enemy);
-    if (enemy.mobtype != mobtype::gifted) return;
+  void adddeed(const Mob& enemy) {
+    if (!enemy.status.empty() || enemy.mobtype != mobtype::gifted) return;
     const auto [option, direction] = readentry(enemy.action);
     if (direction == nullptr) return;
     if (option == plannedoption::kick) {
@@ -38,6 +37,10 @@ class Dangers {
     if (option == plannedoption::throwchair) return addchair(enemy, *direction);
     if (option == plannedoption::throwtable) return addtable(enemy, *direction);
     addperson(enemy, option, *direction);
+  }
+
+  void addshot(const Mob& enemy) {
+    if (enemy.status.empty() && hastag(enemy.action, tag::shootopening)) addgun(enemy);
   }
 
   std::string words() const {
@@ -60,6 +63,12 @@ class Dangers {
     stopped_ += sentence({bywhat, " the gun of ", gunman.mobname, ".  "});
   }
 
+  // A chair knocks all plans out of whom it hits, a raised shield among them.
+  bool keepsshield(const Mob& hero) const {
+    return hastag(hero.action, tag::shield) &&
+           std::ranges::find(hitbychairs_, &hero) == hitbychairs_.end();
+  }
+
   void addgun(const Mob& gunman) {
     const auto [x, y] = shootingtarget(gunman.action);
     const std::string& tags = tiletags(game_, x, y);
@@ -71,7 +80,7 @@ class Dangers {
     Names hit;
     Names safe;
     for (const Mob& hero : standingon(game_, {x, y}, aliance::heroes)) {
-      (hastag(hero.action, tag::shield) ? safe : hit).push_back(hero.mobname);
+      (keepsshield(hero) ? safe : hit).push_back(hero.mobname);
     }
     if (!hit.empty() || safe.empty()) tell("at " + where, "gun of " + gunman.mobname, hit);
     if (safe.empty()) return;
@@ -92,6 +101,7 @@ class Dangers {
     if (!has(thrower, "Chair")) return;
     const std::string what = "chair of " + thrower.mobname;
     if (const Mob* hero = firstinline(game_, tileof(thrower), direction, aliance::heroes)) {
+      hitbychairs_.push_back(hero);
       return tell("at " + placename(tileof(*hero)), what, {hero->mobname});
     }
     tell(sentence(
@@ -108,6 +118,7 @@ class Dangers {
   }
 
   const Game& game_;
+  std::vector<const Mob*> hitbychairs_;
   std::string tosomebody_;
   std::string tonobody_;
   std::string stopped_;
@@ -117,7 +128,9 @@ class Dangers {
 
 std::string dangerwords(const Game& game) {
   Dangers dangers(game);
-  for (const Mob& enemy : standing(game, aliance::enemies)) dangers.add(enemy);
+  // In the order in which they are carried out.
+  for (const Mob& enemy : standing(game, aliance::enemies)) dangers.adddeed(enemy);
+  for (const Mob& enemy : standing(game, aliance::enemies)) dangers.addshot(enemy);
   return dangers.words();
 }
 
