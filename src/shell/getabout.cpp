@@ -77,7 +77,8 @@ void gotoenemies(Game& game, bool backwards) {
     return at(game.mob(slot), {game.cursorx, game.cursory});
   });
   const auto next = own == slots.end() || own + 1 == slots.end() ? slots.begin() : own + 1;
-  if (next == slots.end() || next == own) return sayit(game, "No enemies found");
+  if (slots.empty()) return sayit(game, "No enemies found");
+  if (next == own) return sayit(game, "No enemies found elsewhere");
   putcursor(game, tileof(game.mob(*next)));
 }
 
