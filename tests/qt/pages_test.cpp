@@ -118,6 +118,14 @@ TEST_F(QtWindowTest, ArrowsAnswerTheDirectionBoxWhileNothingIsTyped) {
   }
   EXPECT_EQ(said, Texts{}) << "the order tells of it";
   inbox([](QWidget* field) {
+    const auto open = [line = qobject_cast<QLineEdit*>(field)] { return line->text().isEmpty(); };
+    press(field, Qt::Key_Left, {}, Qt::ControlModifier);  // the system's, as with Alt
+    if (open()) press(field, Qt::Key_Up, {}, Qt::AltModifier);
+    if (open()) press(field, Qt::Key_Down, {}, Qt::ShiftModifier);
+  });
+  EXPECT_EQ(ask(), "S");
+  said.clear();
+  inbox([](QWidget* field) {
     type(field, "s");
     press(field, Qt::Key_Left);
     press(field, Qt::Key_Return);

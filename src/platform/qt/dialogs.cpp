@@ -128,8 +128,7 @@ class Field : public QLineEdit {
 
  protected:
   void keyPressEvent(QKeyEvent* event) override {
-    if (const std::string_view answer = answerof(event->key());
-        text().isEmpty() && !answer.empty()) {
+    if (const std::string_view answer = answerof(*event); text().isEmpty() && !answer.empty()) {
       setText(toqt(answer));
       return box_.accept();
     }
@@ -140,9 +139,10 @@ class Field : public QLineEdit {
   }
 
  private:
-  // Empty for a key that answers nothing.
-  std::string_view answerof(int key) const {
-    switch (key) {
+  // Empty for a key that answers nothing; with Ctrl or Alt an arrow is the system's.
+  std::string_view answerof(const QKeyEvent& event) const {
+    if ((event.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) != 0) return {};
+    switch (event.key()) {
       case Qt::Key_Left: return arrows_.left;
       case Qt::Key_Up: return arrows_.up;
       case Qt::Key_Right: return arrows_.right;
