@@ -87,9 +87,20 @@ TEST(Autosave, AVictoryIsKept) {
   EXPECT_NE(player.folder().read(kept), player.folder().read("game.sav"));
 }
 
+TEST(Autosave, AVictoryWithoutAPageIsKept) {
+  Player player;
+  begincampaign(player);
+  player.game().missionnumber = 2;
+  beginmission(player);
+  EXPECT_EQ(splitlines(player.folder().read(kept)).front(), " 2 ");
+  EXPECT_EQ(endmission(player, aliance::enemies).back(), "Back at the hideout.");
+  EXPECT_EQ(splitlines(player.folder().read(kept)).front(), " 3 ");
+}
+
 TEST(Autosave, TheTestMissionsHeroesAreNeverKept) {
   Player player;
   begincampaign(player);
+  beginmission(player);  // and leaves it
   const std::string before = player.folder().read(kept);
   player.press(key::escape, modifier::shift);
   perform(player, 2);

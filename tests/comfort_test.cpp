@@ -58,6 +58,7 @@ TEST(Comfort, VoicesFollowEachOtherAndSayTheirNames) {
     Player player({.folder = folder.path});
     EXPECT_EQ(player.press(key::f11), (Player::Events{"voicename\tSecond", "voice\tSecond"}));
     EXPECT_EQ(player.press(key::f11), (Player::Events{"voicename\tFirst", "voice\tFirst"}));
+    EXPECT_TRUE(folder.read("comfort.ini").ends_with("\r\n\r\n")) << "the default has no name";
     EXPECT_EQ(player.press(key::f11, modifier::shift),
               (Player::Events{"voicename\tSecond", "voice\tSecond"}));
   }
