@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QApplication>
+#include <QDeadlineTimer>
 #include <QDialog>
 #include <QKeyEvent>
 #include <QPlainTextEdit>
@@ -29,6 +30,15 @@ inline void press(QWidget* where, int key, const QString& text = {},
 
 inline void type(QWidget* where, const QString& letters) {
   for (const QChar letter : letters) press(where, letter.toUpper().unicode(), letter);
+}
+
+// Also without a window manager, which gives it back sooner.
+inline bool getsfocus(const QWidget& widget) {
+  const QDeadlineTimer limit(60'000);
+  while (!widget.hasFocus() && !limit.hasExpired()) {
+    QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
+  }
+  return widget.hasFocus();
 }
 
 class Recorder : public Voice {

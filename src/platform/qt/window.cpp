@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QScreen>
 #include <QTimer>
+#include <chrono>
 #include <utility>
 
 #include "platform/qt/keymap.h"
@@ -17,6 +18,10 @@
 namespace duskmarch {
 
 namespace {
+
+// By then the system has given the focus back from a box that closed. Asking it to beside that
+// makes the focus come, go and come again, and a reader says the title each time.
+constexpr std::chrono::milliseconds focusreturns{300};
 
 // What there is of `wanted` on the screen, less what a title bar and borders take: they are known
 // only when the window is there.
@@ -93,7 +98,9 @@ void QtWindow::closeboxes() {
   if (closedboxes_.empty() || box_ != nullptr) return;
   if (game_ != nullptr && game_->keyhandlerbusy && !game_->ended) return;
   dropboxes();
-  activateWindow();
+  QTimer::singleShot(focusreturns, this, [this] {
+    if (box_ == nullptr && !isActiveWindow()) activateWindow();
+  });
   uncovered();
 }
 
