@@ -311,7 +311,7 @@ TEST(AsHeard, IsMeant) {
       {"plans of who is kicked and who is hit", plansofthekickedandthehit,
        "Vesper 1,2 15 4 [Dazed][Dazed] plans[Fight]|Vesper 2,2 16 4 [Dazed][Dazed]|"},
       {"who is shot, in the next mission", whoisshotinthenextmission, "shot, 8"},
-      {"Enter with any modifier", anymodifierforenter, "Health increased to 13.|?"},
+      {"Enter with any modifier", anymodifierforenter, "Health increased to 13.|Defeat the punks at the tattoo parlor."},
       {"smoke that lingers", smokethatlingers, "Smoke has cleared.|[Smoke]"},
       {"points after a reload", pointsafterareload,
        "Dive increased to 2 uses.|Owl has 6 upgrade points.  Press Enter to spend them."},
