@@ -15,7 +15,7 @@
 #include "invariants.h"
 #include "missions/missions.h"
 #include "resolution/endturn.h"
-#include "resolution/intent.h"
+#include "resolution/enemyreport.h"
 #include "shell/helppage.h"
 #include "shell/playerkeys.h"
 #include "shell/speech/keycodes.h"

@@ -1,4 +1,4 @@
-#include "resolution/intent.h"
+#include "resolution/enemyreport.h"
 
 #include <string>
 #include <vector>

@@ -1,5 +1,5 @@
 // What the player is told of an enemy's plans.
-#include "resolution/intent.h"
+#include "resolution/enemyreport.h"
 
 #include "cases.h"
 #include "ground.h"
@@ -9,8 +9,8 @@
 namespace duskmarch {
 namespace {
 
-TEST(Intent, AnEnemyIsDescribed) {
-  for (const Case& c : readcases("intent.txt")) {
+TEST(EnemyReport, AnEnemyIsDescribed) {
+  for (const Case& c : readcases("enemyreport.txt")) {
     SCOPED_TRACE(c.place);
     Player player;
     Game& game = player.game();
@@ -23,7 +23,7 @@ TEST(Intent, AnEnemyIsDescribed) {
   }
 }
 
-TEST(Intent, EveryRequestMovesOnToTheNextEnemyOfTheTile) {
+TEST(EnemyReport, EveryRequestMovesOnToTheNextEnemyOfTheTile) {
   for (const auto report : {mobcheck, describeenemy}) {
     Player player;
     Game& game = player.game();

@@ -1,4 +1,4 @@
-// What an enemy is about to do, for the player who asks.
+// What M and V tell of an enemy: its state and what it is about to do.
 #pragma once
 
 #include "game.h"
