@@ -1,9 +1,9 @@
 # On Windows: everything but the resampler is the system's own.
 find_package(SampleRate REQUIRED)
-target_link_libraries(sound PRIVATE SampleRate::samplerate ole32 avrt)
+target_link_libraries(sound PRIVATE SampleRate::samplerate ole32 avrt strmiids)
 
 file(GLOB window_sources CONFIGURE_DEPENDS win32/*.cpp)
-list(FILTER window_sources EXCLUDE REGEX "/(main|console|text|files)\\.cpp$")
+list(FILTER window_sources EXCLUDE REGEX "/(main|console|text|openfile|files)\\.cpp$")
 file(GLOB voice_sources CONFIGURE_DEPENDS win32/voice/*.cpp)
 add_library(win32_desktop STATIC ${window_sources} ${voice_sources}
   voice/plaintext.cpp voice/steadyspeech.cpp)

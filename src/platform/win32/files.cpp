@@ -5,13 +5,12 @@
 
 #include <windows.h>
 
+#include "platform/win32/openfile.h"
 #include "platform/win32/text.h"
 
 namespace duskmarch {
 
 namespace {
-
-constexpr DWORD shared = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 
 // A program that looks at every new file lets go of it soon.
 constexpr int mosttries = 25;
@@ -33,63 +32,10 @@ HANDLE systemhandle(std::intptr_t handle) {
   return reinterpret_cast<HANDLE>(handle);
 }
 
-// An open file, until it is released.
-class OpenFile {
- public:
-  OpenFile(const std::filesystem::path& file, DWORD access, DWORD creation, DWORD flags = 0)
-      : handle_(CreateFileW(file.c_str(), access, shared, nullptr, creation,
-                            FILE_ATTRIBUTE_NORMAL | flags, nullptr)) {}
-  OpenFile(OpenFile&& other) noexcept : handle_(other.release()) {}
-  OpenFile& operator=(OpenFile&& other) noexcept {
-    std::swap(handle_, other.handle_);
-    return *this;
-  }
-  ~OpenFile() {
-    if (isopen()) CloseHandle(handle_);
-  }
-
-  bool isopen() const { return handle_ != INVALID_HANDLE_VALUE; }
-  HANDLE get() const { return handle_; }
-  HANDLE release() { return std::exchange(handle_, INVALID_HANDLE_VALUE); }
-
- private:
-  HANDLE handle_;
-};
-
-bool isregular(HANDLE file) {
-  BY_HANDLE_FILE_INFORMATION status;
-  return GetFileType(file) == FILE_TYPE_DISK && GetFileInformationByHandle(file, &status) != 0 &&
-         (status.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
-}
-
-// What the file is besides a file: 0, or the kind of thing that the system finds its content by.
-DWORD kindof(HANDLE file) {
-  FILE_ATTRIBUTE_TAG_INFO tag{};
-  if (GetFileInformationByHandleEx(file, FileAttributeTagInfo, &tag, sizeof tag) == 0) return 0;
-  return (tag.FileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0 ? tag.ReparseTag : 0;
-}
-
 std::size_t sizeofopen(HANDLE file) {
   LARGE_INTEGER size;
   if (GetFileSizeEx(file, &size) == 0) fail("it cannot be looked at");
   return static_cast<std::size_t>(size.QuadPart);
-}
-
-// Looked at as it stands first, so that no link is followed. What a service keeps elsewhere, as
-// OneDrive does, is a file like any other, which has to be opened in the ordinary way.
-OpenFile openforwriting(const std::filesystem::path& file) {
-  OpenFile opened(file, GENERIC_WRITE | FILE_READ_ATTRIBUTES, OPEN_ALWAYS,
-                  FILE_FLAG_OPEN_REPARSE_POINT);
-  if (!opened.isopen()) fail("it cannot be opened for writing");
-  const DWORD kind = kindof(opened.get());
-  if (kind == IO_REPARSE_TAG_SYMLINK || kind == IO_REPARSE_TAG_MOUNT_POINT ||
-      !isregular(opened.get())) {
-    throw FileError("it is no regular file");
-  }
-  if (kind == 0) return opened;
-  opened = OpenFile(file, GENERIC_WRITE | FILE_READ_ATTRIBUTES, OPEN_EXISTING);
-  if (!opened.isopen()) fail("it cannot be opened for writing");
-  return opened;
 }
 
 // Whether a rename that failed may succeed a moment later: another program has the file open.
@@ -103,7 +49,7 @@ bool mayyetsucceed(DWORD error, const std::filesystem::path& to) {
 }  // namespace
 
 std::string readtextfile(const std::filesystem::path& file) {
-  const OpenFile opened(file, GENERIC_READ, OPEN_EXISTING);
+  const OpenFile opened(file.c_str(), GENERIC_READ, OPEN_EXISTING);
   if (!opened.isopen()) fail("it cannot be opened");
   if (!isregular(opened.get())) throw FileError("it is no regular file");
   const std::size_t size = sizeofopen(opened.get());
@@ -118,7 +64,9 @@ std::string readtextfile(const std::filesystem::path& file) {
 }
 
 FileWriter::FileWriter(const std::filesystem::path& file, Start start) : file_(file) {
-  OpenFile opened = openforwriting(file);
+  OpenFile opened = openforwriting(file.c_str());
+  if (!opened.isopen() && GetLastError() == notregular) throw FileError("it is no regular file");
+  if (!opened.isopen()) fail("it cannot be opened for writing");
   if (start == Start::anew && SetEndOfFile(opened.get()) == 0) fail("it cannot be emptied");
   size_ = sizeofopen(opened.get());
   if (SetFilePointerEx(opened.get(), {}, nullptr, FILE_END) == 0) fail("it cannot be written");
@@ -163,7 +111,7 @@ void renamefile(const std::filesystem::path& from, const std::filesystem::path& 
 }
 
 std::optional<FileStamp> stampof(const std::filesystem::path& file) {
-  const OpenFile opened(file, FILE_READ_ATTRIBUTES, OPEN_EXISTING);
+  const OpenFile opened(file.c_str(), FILE_READ_ATTRIBUTES, OPEN_EXISTING);
   BY_HANDLE_FILE_INFORMATION status;
   if (!opened.isopen() || !isregular(opened.get()) ||
       GetFileInformationByHandle(opened.get(), &status) == 0) {

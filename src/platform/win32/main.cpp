@@ -6,6 +6,7 @@
 
 #include "game.h"
 #include "platform/win32/com.h"
+#include "platform/win32/crashhandler.h"
 #include "platform/win32/frontend.h"
 
 namespace {
@@ -27,7 +28,9 @@ std::filesystem::path programfolder() {
 
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int how) {
   const duskmarch::ComThread com(COINIT_APARTMENTTHREADED);
-  duskmarch::FrontEnd frontend(programfolder());
+  const std::filesystem::path folder = programfolder();
+  duskmarch::FrontEnd frontend(folder);
   duskmarch::Game game(frontend.desktop());
+  const duskmarch::CrashHandler crashhandler(game.trace, folder);
   return frontend.run(game, how);
 }

@@ -9,6 +9,7 @@
 #include "platform/sound/mixedsounds.h"
 #include "platform/voice/sharedvoice.h"
 #include "platform/voice/steadyspeech.h"
+#include "platform/win32/sound/directmusic.h"
 #include "platform/win32/voice/jawsspeech.h"
 #include "platform/win32/voice/sapivoice.h"
 
@@ -60,8 +61,8 @@ std::unique_ptr<SoundDevice> Win32System::opensound() {
   return std::make_unique<MixedSounds>(output_.mixer());
 }
 
-std::unique_ptr<MusicGraph> Win32System::createmusic(const std::filesystem::path& /*file*/) {
-  throw PlatformError("there is no music yet");
+std::unique_ptr<MusicGraph> Win32System::createmusic(const std::filesystem::path& file) {
+  return std::make_unique<DirectMusic>(file);
 }
 
 bool Win32System::readerattached() const {
