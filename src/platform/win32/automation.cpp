@@ -19,7 +19,7 @@ DISPID nameof(IDispatch& object, const wchar_t* member) {
 
 Variant invoke(IDispatch& object, const wchar_t* member, WORD kind, DISPPARAMS parameters) {
   Variant result;
-  const bool answers = kind != DISPATCH_PROPERTYPUT;
+  const bool answers = (kind & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF)) == 0;
   check(object.Invoke(nameof(object, member), IID_NULL, LOCALE_USER_DEFAULT, kind, &parameters,
                       answers ? result.put() : nullptr, nullptr, nullptr),
         utf8(member));
@@ -46,6 +46,16 @@ long Variant::number(long otherwise) const {
   return SUCCEEDED(result) ? number.value_.lVal : otherwise;
 }
 
+std::wstring Variant::text() const {
+  if (value_.vt != VT_BSTR) return {};
+  return {value_.bstrVal, SysStringLen(value_.bstrVal)};
+}
+
+IDispatch& Variant::someobject() const {
+  if (object() == nullptr) throw PlatformError("an object is missing");
+  return *object();
+}
+
 bool objectknown(const wchar_t* name) {
   CLSID kind;
   return SUCCEEDED(CLSIDFromProgID(name, &kind));
@@ -68,6 +78,23 @@ void setproperty(IDispatch& object, const wchar_t* property, long value) {
 
 Variant getproperty(IDispatch& object, const wchar_t* property) {
   return invoke(object, property, DISPATCH_PROPERTYGET, {});
+}
+
+void setproperty(IDispatch& object, const wchar_t* property, IDispatch& value) {
+  VARIANT argument;  // whose share stays the caller's
+  argument.vt = VT_DISPATCH;
+  argument.pdispVal = &value;
+  DISPID put = DISPID_PROPERTYPUT;
+  invoke(object, property, DISPATCH_PROPERTYPUTREF, {&argument, &put, 1, 1});
+}
+
+Variant callmethod(IDispatch& object, const wchar_t* method) {
+  return invoke(object, method, DISPATCH_METHOD, {});
+}
+
+Variant callmethod(IDispatch& object, const wchar_t* method, long number) {
+  Variant argument(number);
+  return invoke(object, method, DISPATCH_METHOD, {argument.put(), nullptr, 1, 0});
 }
 
 Variant callmethod(IDispatch& object, const wchar_t* method, std::wstring_view text, long number) {

@@ -1,6 +1,7 @@
 // Objects that are known by name, and so are all that they can do.
 #pragma once
 
+#include <string>
 #include <string_view>
 
 #include <windows.h>
@@ -25,9 +26,13 @@ class Variant {
 
   // As a number: no is 0, and what is none is `otherwise`.
   long number(long otherwise) const;
+  // As a text; empty where it is none.
+  std::wstring text() const;
   bool isno() const { return value_.vt == VT_BOOL && value_.boolVal == VARIANT_FALSE; }
   // The object that it is, or null.
   IDispatch* object() const { return value_.vt == VT_DISPATCH ? value_.pdispVal : nullptr; }
+  // The same, where there has to be one: throws PlatformError.
+  IDispatch& someobject() const;
   VARIANT* put() { return &value_; }
 
  private:
@@ -41,6 +46,9 @@ ComPtr<IDispatch> makeobject(const wchar_t* name);
 
 void setproperty(IDispatch& object, const wchar_t* property, long value);
 Variant getproperty(IDispatch& object, const wchar_t* property);
+void setproperty(IDispatch& object, const wchar_t* property, IDispatch& value);
+Variant callmethod(IDispatch& object, const wchar_t* method);
+Variant callmethod(IDispatch& object, const wchar_t* method, long number);
 Variant callmethod(IDispatch& object, const wchar_t* method, std::wstring_view text, long number);
 
 }  // namespace duskmarch

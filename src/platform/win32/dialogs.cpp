@@ -16,10 +16,21 @@ std::wstring titletext(std::string_view title) {
 }  // namespace
 
 std::string Win32Dialogs::input(std::string_view title, std::string_view prompt) {
+  return ask(title, prompt, {});
+}
+
+std::string Win32Dialogs::choosedirection(std::string_view title, std::string_view prompt,
+                                          const ArrowAnswers& arrows) {
+  return ask(title, prompt, arrows);
+}
+
+std::string Win32Dialogs::ask(std::string_view title, std::string_view prompt,
+                              const ArrowAnswers& arrows) {
   Game* const game = window_.game();
-  InputBox box(titletext(title), prompt, [game](std::string_view heard) {
-    if (game != nullptr) echotyped(*game, heard);
-  });
+  const auto heard = [game](std::string_view words) {
+    if (game != nullptr) echotyped(*game, words);
+  };
+  InputBox box(titletext(title), prompt, heard, arrows);
   std::string typed;
   window_.runmodal(
       [game](int keycode) {

@@ -11,9 +11,13 @@ class Win32Dialogs : public Dialogs {
   explicit Win32Dialogs(Win32Window& window) : window_(window) {}
 
   std::string input(std::string_view title, std::string_view prompt) override;
+  std::string choosedirection(std::string_view title, std::string_view prompt,
+                              const ArrowAnswers& arrows) override;
   void message(std::string_view title, std::string_view text) override;
 
  private:
+  std::string ask(std::string_view title, std::string_view prompt, const ArrowAnswers& arrows);
+
   Win32Window& window_;
 };
 

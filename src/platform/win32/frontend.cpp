@@ -9,9 +9,10 @@ namespace duskmarch {
 FrontEnd::FrontEnd(std::filesystem::path folder)
     : summarylabel_(window_, L"Turn summary"),
       storylabel_(window_, L"Story"),
+      helplabel_(window_, L"Help"),
       dialogs_(window_),
       system_(window_, std::move(folder)),
-      desktop_{system_, window_, summarylabel_, storylabel_, dialogs_} {}
+      desktop_{system_, window_, summarylabel_, storylabel_, helplabel_, dialogs_} {}
 
 int FrontEnd::run(Game& game, int how) {
   window_.attach(game);

@@ -26,6 +26,7 @@ class FrontEnd {
   Win32Window window_;
   Win32Page summarylabel_;
   Win32Page storylabel_;
+  Win32Page helplabel_;
   Win32Dialogs dialogs_;
   Win32System system_;
   Desktop desktop_;

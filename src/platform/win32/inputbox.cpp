@@ -57,8 +57,8 @@ std::wstring righthand(const std::wstring& text, std::size_t caret, bool word) {
 }  // namespace
 
 InputBox::InputBox(std::wstring title, std::string_view prompt,
-                   std::function<void(std::string_view)> heard)
-    : title_(std::move(title)), prompt_(prompt), heard_(std::move(heard)) {}
+                   std::function<void(std::string_view)> heard, const ArrowAnswers& arrows)
+    : title_(std::move(title)), prompt_(prompt), heard_(std::move(heard)), arrows_(arrows) {}
 
 std::string InputBox::run(HWND owner) {
   // Without parts, class and title: they come when it is made.
@@ -194,7 +194,22 @@ void InputBox::typed() {
   heard_(difference(before, before_));
 }
 
+std::string_view InputBox::answerof(WPARAM key) const {
+  switch (key) {
+    case VK_LEFT: return arrows_.left;
+    case VK_UP: return arrows_.up;
+    case VK_RIGHT: return arrows_.right;
+    case VK_DOWN: return arrows_.down;
+    default: return {};
+  }
+}
+
 void InputBox::caretkey(WPARAM key, LPARAM details) {
+  if (const std::string_view answer = answerof(key); before_.empty() && !answer.empty()) {
+    answer_ = answer;
+    EndDialog(box_, IDOK);
+    return;
+  }
   const std::string unchanged = before_;
   const std::size_t from = caret();
   DefSubclassProc(field_, WM_KEYDOWN, key, details);

@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "platform/desktop.h"
 #include "platform/win32/handles.h"
 
 namespace duskmarch {
@@ -12,8 +13,9 @@ namespace duskmarch {
 class InputBox {
  public:
   // `heard` gets what a screen reader would say while the player types and moves about.
-  InputBox(std::wstring title, std::string_view prompt,
-           std::function<void(std::string_view)> heard);
+  // While nothing is typed, an arrow that `arrows` has an answer for closes the box with it.
+  InputBox(std::wstring title, std::string_view prompt, std::function<void(std::string_view)> heard,
+           const ArrowAnswers& arrows = {});
   InputBox(const InputBox&) = delete;
   InputBox& operator=(const InputBox&) = delete;
 
@@ -31,6 +33,8 @@ class InputBox {
   SIZE roomforprompt() const;
   void focused(HWND part);
   void typed();
+  // Empty for a key that answers nothing.
+  std::string_view answerof(WPARAM key) const;
   void caretkey(WPARAM key, LPARAM details);
   std::wstring text() const;
   std::size_t caret() const;
@@ -38,6 +42,7 @@ class InputBox {
   std::wstring title_;
   std::string prompt_;
   std::function<void(std::string_view)> heard_;
+  ArrowAnswers arrows_;
   HWND box_ = nullptr;
   HWND label_ = nullptr;
   HWND field_ = nullptr;

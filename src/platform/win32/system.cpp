@@ -9,6 +9,7 @@
 #include "platform/sound/mixedsounds.h"
 #include "platform/voice/sharedvoice.h"
 #include "platform/voice/steadyspeech.h"
+#include "platform/win32/screenreader.h"
 #include "platform/win32/sound/directmusic.h"
 #include "platform/win32/voice/jawsspeech.h"
 #include "platform/win32/voice/sapivoice.h"
@@ -19,21 +20,6 @@ namespace {
 
 // What goes wrong with speech after the call has returned is logged like what goes wrong in it.
 constexpr auto speecherror = "error in sayit: ";
-
-bool readerflag() {
-  BOOL set = FALSE;
-  return SystemParametersInfoW(SPI_GETSCREENREADER, 0, &set, 0) != 0 && set != 0;
-}
-
-// Not every compiler's library knows the call.
-bool automationheard() {
-  using AreListening = BOOL(WINAPI*)();
-  static const HMODULE library =
-      LoadLibraryExW(L"uiautomationcore.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
-  static const auto arelistening = reinterpret_cast<AreListening>(reinterpret_cast<void*>(
-      library == nullptr ? nullptr : GetProcAddress(library, "UiaClientsAreListening")));
-  return arelistening != nullptr && arelistening() != 0;
-}
 
 }  // namespace
 
@@ -66,7 +52,7 @@ std::unique_ptr<MusicGraph> Win32System::createmusic(const std::filesystem::path
 }
 
 bool Win32System::readerattached() const {
-  return readerflag() || automationheard();
+  return readerlistens();
 }
 
 std::function<void(std::string_view)> Win32System::log(std::string_view prefix) {

@@ -8,6 +8,7 @@
 
 #include "platform/win32/keymap.h"
 #include "platform/win32/resources.h"
+#include "platform/win32/screenreader.h"
 #include "platform/win32/screens.h"
 #include "platform/win32/text.h"
 #include "shell/keyboard.h"
@@ -19,6 +20,8 @@ namespace {
 
 constexpr auto classname = L"Duskmarch";
 constexpr UINT callposted = WM_APP;
+constexpr UINT_PTR readertimer = 1;
+constexpr UINT betweenlooks = 1000;  // milliseconds
 constexpr DWORD style = WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN;
 constexpr SIZE startsize{1288, 660};
 constexpr SIZE smallestsize{320, 200};
@@ -104,6 +107,7 @@ Win32Window::~Win32Window() {
 void Win32Window::run(int how) {
   ShowWindow(handle_, how);
   SetForegroundWindow(handle_);
+  SetTimer(handle_, readertimer, betweenlooks, nullptr);
   while (handleevents()) WaitMessage();
 }
 
@@ -125,6 +129,11 @@ void Win32Window::makepostedcalls() {
     calls.swap(posted_);
   }
   for (const auto& call : calls) call();
+}
+
+void Win32Window::lookforreader() {
+  const bool before = std::exchange(readerseen_, readerflag());
+  if (readerseen_ && !before && game_ != nullptr) readerfound(*game_);
 }
 
 void Win32Window::cover(HWND page) {
@@ -257,6 +266,7 @@ LRESULT Win32Window::handle(UINT message, WPARAM first, LPARAM second) {
       if (first != FALSE) end();
       return 0;
     case WM_CLOSE: end(); return 0;
+    case WM_TIMER: lookforreader(); return 0;
     case callposted: makepostedcalls(); return 0;
     default: break;
   }

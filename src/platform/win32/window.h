@@ -61,6 +61,7 @@ class Win32Window : public Window {
   LRESULT handle(UINT message, WPARAM first, LPARAM second);
   bool drops(const MSG& message);
   void makepostedcalls();
+  void lookforreader();
   void paint();
   void resized();
   void rescaled(const RECT& area);
@@ -77,6 +78,7 @@ class Win32Window : public Window {
   std::vector<HWND> pages_;
   HWND focus_ = nullptr;  // the page that has the focus while the window is active
   std::function<void(int keycode)> boxkeypressed_;
+  bool readerseen_ = false;
   bool stale_ = true;  // the game must draw again before the picture is shown
   std::mutex postmutex_;
   std::vector<std::function<void()>> posted_;

@@ -1,5 +1,6 @@
 #include "platform/win32/voice/sapivoice.h"
 
+#include <algorithm>
 #include <chrono>
 #include <deque>
 #include <optional>
@@ -22,6 +23,8 @@ enum SpeakFlags : long { meanwhile = 1, purging = 2, notmarkup = 16 };
 
 // "RunningState" when all has been spoken.
 constexpr long allspoken = 1;
+// How long the start waits for the names of the voices.
+constexpr std::chrono::seconds listing{1};
 // How often a voice that speaks is asked whether it still does.
 constexpr milliseconds betweenlooks{50};
 constexpr milliseconds farewell{300};
@@ -32,24 +35,56 @@ struct Utterance {
   std::string text;
   long flags = 0;
   std::optional<int> rate;
+  std::string voice;  // by name; empty for the default
 };
 
-// Throws PlatformError where there is none to be made.
-std::shared_ptr<Mixer> withvoice(std::shared_ptr<Mixer> mixer) {
-  if (!objectknown(voicename)) throw PlatformError("the system has no voice");
-  return mixer;
+// One of the voices that the system's can have.
+struct NamedVoice {
+  std::string name;
+  Variant token;
+};
+
+bool isamong(const std::vector<std::string>& names, std::string_view name) {
+  return std::ranges::find(names, name) != names.end();
+}
+
+ComPtr<IDispatch> makevoice() {
+  return makeobject(voicename);
+}
+
+std::string nameof(IDispatch& token) {
+  return plaintext(utf8(callmethod(token, L"GetDescription").text()));
+}
+
+// The default first.
+std::vector<NamedVoice> voicesof(IDispatch& object) {
+  std::vector<NamedVoice> voices;
+  const auto add = [&](Variant token) {
+    std::string name = nameof(token.someobject());
+    if (name.empty() || std::ranges::find(voices, name, &NamedVoice::name) != voices.end()) return;
+    voices.push_back({std::move(name), std::move(token)});
+  };
+  add(getproperty(object, L"Voice"));
+  const Variant all = callmethod(object, L"GetVoices");
+  const long count = getproperty(all.someobject(), L"Count").number(0);
+  for (long n = 0; n < count; ++n) add(callmethod(all.someobject(), L"Item", n));
+  return voices;
 }
 
 }  // namespace
 
 struct SapiVoice::Orders : Desk {
-  Orders(std::shared_ptr<Mixer> mixer, SpeechLog speechlog)
-      : sounds(std::move(mixer)), log(std::move(speechlog)) {}
+  Orders(std::shared_ptr<Mixer> mixer, SpeechLog speechlog, Make makeone)
+      : sounds(std::move(mixer)), log(std::move(speechlog)), make(std::move(makeone)) {}
 
   const std::shared_ptr<Mixer> sounds;
   const SpeechLog log;
+  const Make make;
   std::deque<Utterance> waiting;
   std::optional<int> rate;
+  std::string voice;
+  std::vector<std::string> names;
+  bool listed = false;  // or found out that there is no list, or not waited for any more
 };
 
 // The thread's side.
@@ -61,11 +96,14 @@ class SapiVoice::Clerk {
   ~Clerk() { orders_.sounds->setspeaking(false); }
 
   void work() {
+    listvoices();
     while (const auto next = await()) saywhole(*next);
   }
 
  private:
   std::optional<Utterance> await();
+  void listvoices();
+  void change(const std::string& voice);
   void saywhole(const Utterance& utterance);
   void say(const Utterance& utterance);
   void look();
@@ -81,6 +119,8 @@ class SapiVoice::Clerk {
   Orders& orders_;
   ComPtr<IDispatch> voice_;
   std::optional<int> rate_;  // that the voice was given
+  std::string name_;         // that it was given; empty: it has its own voice still
+  std::vector<NamedVoice> voices_;
   bool speaking_ = false;
 };
 
@@ -98,6 +138,33 @@ std::optional<Utterance> SapiVoice::Clerk::await() {
   Utterance next = std::move(orders_.waiting.front());
   orders_.waiting.pop_front();
   return next;
+}
+
+// A voice that names none has but one way to sound.
+void SapiVoice::Clerk::listvoices() {
+  try {
+    voice_ = orders_.make();
+    voices_ = voicesof(*voice_.get());
+  } catch (const PlatformError&) {
+    voices_.clear();
+  }
+  const std::lock_guard guard(orders_.mutex);
+  for (const NamedVoice& voice : voices_) orders_.names.push_back(voice.name);
+  orders_.listed = true;
+  orders_.wake.notify_all();
+}
+
+// One that has gone is not worth an error: the voice speaks as it did.
+void SapiVoice::Clerk::change(const std::string& voice) {
+  name_ = voice;
+  auto found = std::ranges::find(voices_, voice, &NamedVoice::name);
+  if (voice.empty()) found = voices_.begin();
+  if (found == voices_.end()) return;
+  try {
+    setproperty(*voice_.get(), L"Voice", found->token.someobject());
+  } catch (const PlatformError& error) {
+    report(error.what());
+  }
 }
 
 void SapiVoice::Clerk::saywhole(const Utterance& utterance) {
@@ -119,9 +186,11 @@ void SapiVoice::Clerk::saywhole(const Utterance& utterance) {
 
 void SapiVoice::Clerk::say(const Utterance& utterance) {
   if (!voice_) {
-    voice_ = makeobject(voicename);
+    voice_ = orders_.make();
     rate_.reset();
+    name_.clear();
   }
+  if (utterance.voice != name_) change(utterance.voice);
   if (utterance.rate && utterance.rate != rate_) {
     setproperty(*voice_.get(), L"Rate", *utterance.rate);
     rate_ = utterance.rate;
@@ -142,9 +211,15 @@ void SapiVoice::Clerk::look() {
 }
 
 SapiVoice::SapiVoice(std::shared_ptr<Mixer> mixer, SpeechLog log)
-    : thread_(
-          std::make_shared<Orders>(withvoice(std::move(mixer)), std::move(log)),
-          [](const std::shared_ptr<Orders>& orders) { Clerk(*orders).work(); }, farewell) {}
+    : SapiVoice(
+          std::move(mixer), std::move(log),
+          objectknown(voicename) ? makevoice : throw PlatformError("the system has no voice")) {}
+
+SapiVoice::SapiVoice(std::shared_ptr<Mixer> mixer, SpeechLog log, Make make)
+    : orders_(std::make_shared<Orders>(std::move(mixer), std::move(log), std::move(make))),
+      thread_(
+          orders_, [](const std::shared_ptr<Orders>& orders) { Clerk(*orders).work(); }, farewell) {
+}
 
 SapiVoice::~SapiVoice() = default;
 
@@ -155,15 +230,30 @@ void SapiVoice::setrate(int rate) {
 void SapiVoice::speak(std::string_view text) {
   thread_.order([&](Orders& orders) {
     orders.waiting.clear();
-    orders.waiting.push_back({plaintext(text), meanwhile | purging | notmarkup, orders.rate});
+    orders.waiting.push_back(
+        {plaintext(text), meanwhile | purging | notmarkup, orders.rate, orders.voice});
   });
 }
 
 void SapiVoice::speakafter(std::string_view text) {
   thread_.order([&](Orders& orders) {
     if (orders.waiting.size() == longestqueue) orders.waiting.pop_front();
-    orders.waiting.push_back({plaintext(text), meanwhile | notmarkup, orders.rate});
+    orders.waiting.push_back({plaintext(text), meanwhile | notmarkup, orders.rate, orders.voice});
   });
+}
+
+std::vector<std::string> SapiVoice::voicenames() {
+  const std::lock_guard guard(orders_->mutex);
+  return orders_->names;
+}
+
+bool SapiVoice::setvoice(std::string_view name) {
+  std::unique_lock lock(orders_->mutex);
+  const bool listed = orders_->wake.wait_for(lock, listing, [this] { return orders_->listed; });
+  orders_->listed = true;
+  if (listed && !name.empty() && !isamong(orders_->names, name)) return false;
+  orders_->voice = name;
+  return true;
 }
 
 }  // namespace duskmarch

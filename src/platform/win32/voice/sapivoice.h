@@ -1,8 +1,11 @@
 // The voice of Windows, which sounds by itself.
 #pragma once
 
+#include <functional>
 #include <memory>
+#include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/desktop.h"
 #include "platform/sound/mixer.h"
@@ -15,19 +18,29 @@ namespace duskmarch {
 // slow the voice is, no call waits. A voice that has gone is made again for the next text.
 class SapiVoice final : public Voice {
  public:
+  // Makes the system's object; throws PlatformError.
+  using Make = std::function<ComPtr<IDispatch>()>;
+
   // `mixer` is told while the voice speaks. Throws PlatformError when the system knows no voice.
   SapiVoice(std::shared_ptr<Mixer> mixer, SpeechLog log);
+  // The same with another object for the voice.
+  SapiVoice(std::shared_ptr<Mixer> mixer, SpeechLog log, Make make);
   ~SapiVoice() override;
 
   void setrate(int rate) override;
   void speak(std::string_view text) override;
   void speakafter(std::string_view text) override;
   void hush() override { speak({}); }
+  // Those that have been listed by now, which is done as soon as there is a voice.
+  std::vector<std::string> voicenames() override;
+  // Waits a second for the list, once. A name is taken on trust where there is none yet.
+  bool setvoice(std::string_view name) override;
 
  private:
   struct Orders;
   class Clerk;
 
+  std::shared_ptr<Orders> orders_;
   DeskThread<Orders> thread_;
 };
 
