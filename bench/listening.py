@@ -23,13 +23,14 @@ LONG = ("I have enjoyed playing it, but I have been relying on visual input and 
 
 
 class Monitor:
-    """What reaches a sink, sample by sample, and when."""
+    """What reaches a sink, by default the system's own, sample by sample, and when."""
 
-    def __init__(self, sink="bench"):
+    def __init__(self, sink=None):
+        device = f"{sink}.monitor" if sink else "@DEFAULT_MONITOR@"
         self.samples, self.arrivals = [], []  # blocks; (time, samples up to then)
         self.total = 0
         self.source = subprocess.Popen(
-            ["parec", f"--device={sink}.monitor", "--raw", "--format=s16le", f"--rate={RATE}",
+            ["parec", f"--device={device}", "--raw", "--format=s16le", f"--rate={RATE}",
              "--channels=1", "--latency-msec=2"], stdout=subprocess.PIPE)
         threading.Thread(target=self.read, daemon=True).start()
         wait(lambda: self.total > 0, "samples from the sink")

@@ -1,14 +1,15 @@
 #!/usr/bin/python3
-"""Plays the first minutes of the packed game for Windows, by keys, under Wine.
+"""Plays the packed game for Windows by real keys, under Wine.
 
-usage: desktop_test.py BUILD-FOLDER
+usage: desktop_test.py BUILD-FOLDER [SCENE...]
 """
 
+import math
 import subprocess
 import sys
 import zipfile
 
-from winesession import LIMIT, WineSession, windows_path
+from winesession import LIMIT, WineSession, loudness, wav_samples, windows_path
 
 PROMPT = "Enter N S E W to choose your direction, or leave blank to cancel."
 STORY = "Nightjar and Steelwing storm into a pool hall"
@@ -17,12 +18,8 @@ READONLY, MULTILINE = 0x800, 0x4
 
 def unpack(session):
     """The package in a folder whose name is in no code page."""
-    packages = session.folder / "packages"
-    subprocess.run(["cpack", "-G", "ZIP", "--config", session.build / "CPackConfig.cmake",
-                    "-B", packages], check=True, stdout=subprocess.DEVNULL)
     place = session.folder / "gra żółw Ελληνικός"
-    [package] = packages.glob("duskmarch-*-windows-x86_64.zip")
-    with zipfile.ZipFile(package) as files:
+    with zipfile.ZipFile(session.package("ZIP", "windows-x86_64.zip")) as files:
         files.extractall(place)
     [folder] = place.iterdir()
     for text in ("readme.txt", "COPYING.txt", "sounds/LICENSE.txt"):
@@ -33,6 +30,10 @@ def unpack(session):
 
 def choose(folder, mode):
     (folder / "progress.ini").write_bytes(b" %d \r\n 2 \r\n\r\n" % mode)
+
+
+def texts(game):
+    return [line.partition(" ")[2] for line in game.said()]
 
 
 def settings(folder):
@@ -121,6 +122,46 @@ def the_voice_reads_pages_and_boxes(game, folder):
     close(game)  # with the box open
 
 
+def the_voice_hangs(game, folder):
+    choose(folder, 0)
+    game.play(folder / "duskmarch.exe")
+    game.expect_said("Start new game", "Down")
+    game.tell("voice", "hang")
+    game.press("Down", "Prior")
+    game.expect(lambda: settings(folder) == b" 0 \r\n 3 \r\n\r\n", "the new rate kept")
+    game.tell("voice", None)
+    game.expect(lambda: "Sapi rate changed to 3." in texts(game), "the voice again")
+    game.expect_said("About", "Down")
+    close(game)
+
+
+def jaws_speaks_goes_and_comes_back(game, folder):
+    choose(folder, 3)
+    game.play(folder / "duskmarch.exe")
+    game.expect_said("Start new game", "Down")
+    assert game.said()[-1] == "SayString(0) Start new game", game.said()
+    game.tell("jaws", "gone")
+    game.expect_said("Speech service lost.  Test mission where you control 2 established heroes "
+                     "against many foes.", "Down")
+    game.tell("jaws", None)
+    game.expect(lambda: game.press("r") or game.said()[-1].startswith("SayString(0) Test mission"),
+                "JAWS again")
+    close(game)
+
+
+def tab_goes_round_the_engines(game, folder):
+    choose(folder, 0)
+    game.play(folder / "duskmarch.exe")
+    for mode in (1, 2, 3, 0):
+        game.press("Tab")
+        game.expect(lambda: settings(folder) == b" %d \r\n 2 \r\n\r\n" % mode, f"mode {mode}")
+    game.without_jaws()
+    game.press("Tab", "Tab")
+    game.expect_said("Jaws does not seem to be responding, Sapi on.", "Tab")
+    game.with_standins()
+    close(game)
+
+
 def the_settings_are_locked(game, folder):
     choose(folder, 1)
     game.play(folder / "duskmarch.exe")
@@ -134,27 +175,85 @@ def the_settings_are_locked(game, folder):
     close(game)
 
 
+def window_eyes_is_sent_its_keys(game, folder):
+    choose(folder, 2)
+    game.play(folder / "duskmarch.exe")
+    game.expect_focus("Duskmarch", "Welcome to Duskmarch")
+    before = len(game.ask("sentkeys"))
+    # The keys of mode 2 are the player's to no one: as a Ctrl, one would have emptied the title.
+    game.expect_title("Start new game", "Down")
+    sent = ["17 down", "16 down", "84 down", "17 up", "16 up", "84 up"]
+    game.expect(lambda: game.ask("sentkeys")[before:] == sent, "Ctrl, Shift and T")
+    game.expect_title("Test mission where you control 2", "Down")
+    game.expect_title("Rev 1, Test mission", "bracketright")
+    close(game)
+
+
+def sounds_are_heard_as_they_are_recorded(game, folder):
+    choose(folder, 1)
+    game.play(folder / "duskmarch.exe")
+    game.expect_focus("Duskmarch", "Welcome to Duskmarch")
+    for key, sound in (("Down", "arrows"), ("Tab", "WE")):
+        expected = loudness(wav_samples(folder / "sounds" / "menu" / (sound + ".wav")))
+        with game.listening() as ears:
+            game.press(key)
+            left, right = ears.next_sound()
+        assert math.isclose(loudness(left), expected, abs_tol=0.01), (sound, loudness(left), expected)
+        assert left == right, sound
+    close(game)
+
+
+def without_a_device_it_ends(game, folder):
+    choose(folder, 1)
+    program = game.start_program(folder / "duskmarch.exe",
+                                 PULSE_SERVER=f"unix:{game.folder}/nowhere")
+    game.expect(lambda: game.window("#32770"), "the box")
+    words = [part["text"] for part in game.window("#32770")["parts"]]
+    assert any(text.startswith("Unable to start DirectSound") for text in words), words
+    game.press("Return")
+    assert program.wait(LIMIT) == 1
+    errors = folder / "debuglog.txt"
+    assert "sound" in errors.read_text(encoding="utf-8"), errors.read_text(encoding="utf-8")
+    errors.unlink()
+
+
+def a_crash_leaves_the_keys(game, folder):
+    choose(folder, 1)
+    program = game.play(folder / "duskmarch.exe")
+    game.expect_title("Start new game", "Down")
+    game.expect_title("Test mission where you control 2", "Down")
+    assert game.ask("crash")
+    assert program.wait(LIMIT) != 0
+    note = (folder / "crash.txt").read_text(encoding="utf-8")
+    assert note.count("key 40\n") == 2, note
+    [dump] = folder.glob("*.dmp")
+    assert dump.read_bytes().startswith(b"MDMP"), dump
+
+
 def the_system_shuts_down(game, folder):
     choose(folder, 2)
     program = game.play(folder / "duskmarch.exe")
     game.expect_title("Start new game", "Down")
-    # The keys of mode 2 are the player's to no one: as a Ctrl, one would have emptied the title.
-    game.expect_title("Test mission where you control 2", "Down")
-    game.expect_title("Rev 1, Test mission", "bracketright")
     assert game.ask("endsession")
     assert program.wait(LIMIT) == 0
 
 
-def main(build):
+SCENES = (the_reader_hears_a_turn, the_voice_reads_pages_and_boxes, the_voice_hangs,
+          jaws_speaks_goes_and_comes_back, tab_goes_round_the_engines, window_eyes_is_sent_its_keys,
+          sounds_are_heard_as_they_are_recorded, the_settings_are_locked, the_system_shuts_down,
+          without_a_device_it_ends, a_crash_leaves_the_keys)
+
+
+def main(build, *chosen):
     with WineSession(build) as game:
         game.run(game.build / "onscreen-tests.exe")
         folder = unpack(game)
-        the_reader_hears_a_turn(game, folder)
-        the_voice_reads_pages_and_boxes(game, folder)
-        the_settings_are_locked(game, folder)
-        the_system_shuts_down(game, folder)
         errors = folder / "debuglog.txt"
-        assert not errors.exists(), errors.read_text(encoding="utf-8")
+        for scene in SCENES:
+            if not chosen or scene.__name__ in chosen:
+                print(scene.__name__, flush=True)
+                scene(game, folder)
+                assert not errors.exists(), errors.read_text(encoding="utf-8")
 
 
-main(sys.argv[1])
+main(*sys.argv[1:])

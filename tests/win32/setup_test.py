@@ -5,7 +5,6 @@ player's files stay.
 usage: setup_test.py BUILD-FOLDER
 """
 
-import subprocess
 import sys
 
 from winesession import WineSession, windows_path
@@ -15,21 +14,13 @@ OURS = {"progress.ini": b" 1 \r\n 7 \r\n\r\n", "game.sav": b"anything", "sounds/
         "my notes.txt": b"left at the pool hall"}
 
 
-def setup_of(game):
-    packages = game.folder / "packages"
-    subprocess.run(["cpack", "-G", "External", "--config", game.build / "CPackConfig.cmake",
-                    "-B", packages], check=True, stdout=subprocess.DEVNULL)
-    [setup] = packages.glob("duskmarch-*-setup.exe")
-    return setup
-
-
 def files_in(folder):
     return {str(path.relative_to(folder)) for path in folder.rglob("*") if path.is_file()}
 
 
 def main(build):
     with WineSession(build) as game:
-        setup = setup_of(game)
+        setup = game.package("External", "setup.exe")
         place = game.folder / "żółw-Ελληνικός"
         for _ in range(2):
             game.run(setup, "/S", "/D=" + windows_path(place))

@@ -1,12 +1,15 @@
 """The game for Windows on a private display: its windows as a screen reader finds them, and keys."""
 
+import array
 import json
+import math
 import os
 import pathlib
 import shutil
 import subprocess
 import sys
 import tempfile
+import wave
 
 HERE = pathlib.Path(__file__).resolve().parent
 sys.path.insert(0, str(HERE.parent / "desktop"))
@@ -14,10 +17,16 @@ from session import LIMIT, end_with_the_test, wait  # noqa: E402
 
 WINE = HERE.parent.parent / "tools" / "wine"
 REPEATS = 12  # of a key that is held
+FRAME = 8  # bytes, of two samples
+QUIET = 24000  # frames: no sound of the game has such a gap
+# Of Wine itself: no other device than ours, and none of its own questions.
+WINES_OWN = ((r"HKCU\Software\Wine\Drivers", "Audio", "pulse"),
+             (r"HKCU\Software\Wine\WineDbg", "ShowCrashDialog", "0"))
 
 
 class WineSession:
-    """A display, and Wine on it, in a prefix that is kept for the next time."""
+    """A display, a sound device that nobody hears, and Wine on them, in a prefix that is kept for the
+    next time."""
 
     def __init__(self, build):
         self.build = pathlib.Path(build).resolve()
@@ -25,22 +34,16 @@ class WineSession:
     def __enter__(self):
         self.folder = pathlib.Path(tempfile.mkdtemp(prefix="duskmarch-wine-"))
         self.prefix = self.build.parent / "wine.desktop"
-        os.environ.update(DUSKMARCH_WINEPREFIX=str(self.prefix),
-                          SPEECH_LOG=windows_path(self.folder / "speech"))
+        self.speech = self.folder / "speech"
         self.children = []
-        read, write = os.pipe()
-        self.start("Xvfb", "-displayfd", str(write), "-screen", "0", "1400x800x24",
-                   "-nolisten", "tcp", pass_fds=(write,))
-        os.close(write)
-        with os.fdopen(read) as answer:
-            os.environ["DISPLAY"] = ":" + answer.readline().strip()
-        # It all ends with its first program: none is left from another display.
-        self.wineserver("--kill")
-        self.reader = self.start(WINE, self.build / "windowreader.exe", stdin=subprocess.PIPE,
-                                 stdout=subprocess.PIPE)
-        self.keys = self.folder / "keys"
-        with open(self.keys, "wb") as log:
-            self.start("stdbuf", "-oL", "xinput", "test-xi2", "--root", stdout=log)
+        try:
+            self.set_environment()
+            self.start_display()
+            self.sink = self.start_sink()
+            self.start_wine()
+        except BaseException:
+            self.__exit__()
+            raise
         return self
 
     def __exit__(self, *_):
@@ -51,6 +54,45 @@ class WineSession:
             child.wait(LIMIT)
         shutil.rmtree(self.folder, ignore_errors=True)
 
+    def set_environment(self):
+        run = self.folder / "run"
+        run.mkdir(mode=0o700)
+        for name in ("PULSE_SERVER", "PULSE_SINK", "WAYLAND_DISPLAY"):
+            os.environ.pop(name, None)
+        os.environ.update(DUSKMARCH_WINEPREFIX=str(self.prefix), XDG_RUNTIME_DIR=str(run),
+                          PULSE_COOKIE=str(run / "cookie"), SPEECH_LOG=windows_path(self.speech))
+
+    def start_display(self):
+        read, write = os.pipe()
+        self.start("Xvfb", "-displayfd", str(write), "-screen", "0", "1400x800x24",
+                   "-nolisten", "tcp", pass_fds=(write,))
+        os.close(write)
+        with os.fdopen(read) as answer:
+            os.environ["DISPLAY"] = ":" + answer.readline().strip()
+        self.keys = self.folder / "keys"
+        with open(self.keys, "wb") as log:
+            self.start("stdbuf", "-oL", "xinput", "test-xi2", "--root", stdout=log)
+
+    def start_sink(self):
+        sink = self.start(
+            "pulseaudio", "-n", "--daemonize=no", "--use-pid-file=no", "--exit-idle-time=-1",
+            "--load=module-null-sink sink_name=ears rate=48000 format=float32le",
+            "--load=module-native-protocol-unix auth-anonymous=1",
+            env={**os.environ, "HOME": str(self.folder)}, stderr=subprocess.DEVNULL)
+        wait(lambda: subprocess.run(["pactl", "info"], capture_output=True).returncode == 0,
+             "the sound service")
+        return sink
+
+    def start_wine(self):
+        # It all ends with its first program: none is left from another display.
+        self.wineserver("--kill")
+        for key, name, value in WINES_OWN:
+            self.run("reg", "add", key, "/v", name, "/d", value, "/f")
+        shutil.copy(self.build / "speechstandin.dll", self.prefix / "drive_c/windows/system32")
+        self.with_standins()
+        self.reader = self.start(WINE, self.build / "windowreader.exe", stdin=subprocess.PIPE,
+                                 stdout=subprocess.PIPE)
+
     def wineserver(self, *options):
         subprocess.run(["/usr/lib/wine/wineserver64", *options], check=False, timeout=LIMIT,
                        env={**os.environ, "WINEPREFIX": str(self.prefix)})
@@ -60,6 +102,15 @@ class WineSession:
             command, preexec_fn=end_with_the_test,
             **{"stdin": subprocess.DEVNULL, "stdout": subprocess.DEVNULL, **options}))
         return self.children[-1]
+
+    def package(self, generator, ending):
+        """Made anew in the build's folder, where it stays."""
+        for old in self.build.glob("duskmarch-*-" + ending):
+            old.unlink()
+        subprocess.run(["cpack", "-G", generator, "--config", self.build / "CPackConfig.cmake",
+                        "-B", self.build], check=True, stdout=subprocess.DEVNULL)
+        [package] = self.build.glob("duskmarch-*-" + ending)
+        return package
 
     def run(self, *command):
         """A program that has to end well."""
@@ -72,9 +123,19 @@ class WineSession:
         """Whether the program ends well."""
         return self.start(WINE, *command).wait(LIMIT) == 0
 
+    def with_standins(self):
+        """For the voice of the system and for JAWS."""
+        self.run("regedit", "/S", windows_path(HERE / "standin" / "standin.reg"))
+
+    def without_jaws(self):
+        self.run("reg", "delete", r"HKLM\Software\Classes\FreedomSci.JawsApi", "/f")
+
+    def start_program(self, program, **environment):
+        return self.start(WINE, program, env={**os.environ, **environment})
+
     def play(self, program):
         """Starts the game; returns when its window is there."""
-        game = self.start(WINE, program)
+        game = self.start_program(program)
         wait(lambda: game.poll() is not None or self.window("Duskmarch"), "the window")
         return game
 
@@ -97,8 +158,21 @@ class WineSession:
 
     def said(self):
         """What the voice was given, line by line."""
-        log = self.folder / "speech"
-        return log.read_text(encoding="utf-8").splitlines() if log.exists() else []
+        if not self.speech.exists():
+            return []
+        return self.speech.read_text(encoding="utf-8").splitlines()
+
+    def tell(self, whom, order):
+        """What `voice` or `jaws` does from now on; see standin.cpp. With None, they speak."""
+        file = self.speech.with_suffix("." + whom)
+        if order is None:
+            file.unlink()
+        else:
+            file.with_suffix(".new").write_text(order)
+            file.with_suffix(".new").rename(file)
+
+    def listening(self):
+        return Ears(self)
 
     # The player's hands, and what has to come of it.
 
@@ -133,6 +207,55 @@ class WineSession:
         subprocess.run(["xdotool", "keydown", key], check=True, timeout=LIMIT)
         wait(lambda: self.presses() > before + REPEATS, f"{key} to repeat")
         subprocess.run(["xdotool", "keyup", key], check=True, timeout=LIMIT)
+
+
+class Ears:
+    """What the sink plays, from the beginning to the end of a `with`."""
+
+    def __init__(self, session):
+        self.session = session
+
+    def __enter__(self):
+        self.file = self.session.folder / "heard"
+        with open(self.file, "wb") as file:
+            self.recorder = self.session.start(
+                "parec", "--device=@DEFAULT_MONITOR@", "--raw", "--format=float32le",
+                "--rate=48000", "--channels=2", "--latency-msec=10", stdout=file)
+        wait(lambda: self.played(), "what the sink plays")
+        return self
+
+    def __exit__(self, *_):
+        self.recorder.terminate()
+        self.recorder.wait(LIMIT)
+        self.session.children.remove(self.recorder)
+
+    def played(self):
+        data = self.file.read_bytes()
+        return data[:len(data) - len(data) % FRAME]
+
+    def next_sound(self):
+        """The left and the right samples of what is heard, once it has been quiet for a while."""
+        def over():
+            data = self.played()
+            return any(data) and not any(data[-QUIET * FRAME:])
+        wait(over, "a sound and its end")
+        samples = array.array("f", self.played())
+        sounding = [n for n in range(0, len(samples), 2) if samples[n] or samples[n + 1]]
+        return [samples[n] for n in sounding], [samples[n + 1] for n in sounding]
+
+
+def wav_samples(file):
+    """Of a mono file with whole numbers."""
+    with wave.open(str(file)) as sound:
+        width, data = sound.getsampwidth(), sound.readframes(sound.getnframes())
+    top = 1 << (8 * width - 1)
+    return [int.from_bytes(data[n:n + width], "little", signed=True) / top
+            for n in range(0, len(data), width)]
+
+
+def loudness(samples):
+    """The energy of a whole sound, in decibels."""
+    return 10 * math.log10(sum(sample * sample for sample in samples))
 
 
 def windows_path(path):

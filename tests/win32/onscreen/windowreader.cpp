@@ -1,9 +1,12 @@
 // What a screen reader finds in the game's windows, and what the system does to them, for a test
 // in another process. Reads commands from standard input, a line each, and answers each with one
-// line of JSON: `state`; `close`; `endsession`; `hold FILE`, `letgo`.
+// line of JSON: `state`; `close`; `endsession`; `hold FILE`, `letgo`; `crash`; `sentkeys`, the keys
+// that programs have sent since it was asked for the first time.
 #include <cstdio>
 #include <iostream>
+#include <mutex>
 #include <string>
+#include <thread>
 
 #include <fcntl.h>
 #include <io.h>
@@ -105,6 +108,50 @@ std::string endsession() {
   return "true";
 }
 
+// In a thread of its own, as an error that nobody thought of.
+std::string crash() {
+  DWORD id = 0;
+  GetWindowThreadProcessId(FindWindowW(L"Duskmarch", nullptr), &id);
+  HANDLE game = OpenProcess(PROCESS_ALL_ACCESS, FALSE, id);
+  const auto nocode = reinterpret_cast<LPTHREAD_START_ROUTINE>(16);
+  HANDLE thread = CreateRemoteThread(game, nullptr, 0, nocode, nullptr, 0, nullptr);
+  CloseHandle(thread);
+  CloseHandle(game);
+  return thread != nullptr ? "true" : "false";
+}
+
+// Written by the thread that the system tells of all keys.
+std::mutex sentmutex;
+std::string sent;
+
+LRESULT CALLBACK keyseen(int code, WPARAM message, LPARAM details) {
+  const auto& key = *reinterpret_cast<const KBDLLHOOKSTRUCT*>(details);
+  if (code == HC_ACTION && (key.flags & LLKHF_INJECTED) != 0) {
+    const bool down = message == WM_KEYDOWN || message == WM_SYSKEYDOWN;
+    const std::lock_guard guard(sentmutex);
+    sent += (sent.empty() ? "\"" : ",\"") + std::to_string(key.vkCode) + (down ? " down\"" : " up\"");
+  }
+  return CallNextHookEx(nullptr, code, message, details);
+}
+
+void watchkeys(HANDLE watching) {
+  SetWindowsHookExW(WH_KEYBOARD_LL, keyseen, GetModuleHandleW(nullptr), 0);
+  SetEvent(watching);
+  MSG message;
+  while (GetMessageW(&message, nullptr, 0, 0) > 0) DispatchMessageW(&message);
+}
+
+std::string sentkeys() {
+  static HANDLE watching = nullptr;
+  if (watching == nullptr) {
+    watching = CreateEventW(nullptr, TRUE, FALSE, nullptr);
+    std::thread(watchkeys, watching).detach();
+    WaitForSingleObject(watching, INFINITE);
+  }
+  const std::lock_guard guard(sentmutex);
+  return "[" + sent + "]";
+}
+
 }  // namespace
 
 int main() {
@@ -127,6 +174,10 @@ int main() {
       answer = held != INVALID_HANDLE_VALUE ? "true" : "false";
     } else if (command == "letgo") {
       CloseHandle(held);
+    } else if (command == "crash") {
+      answer = crash();
+    } else if (command == "sentkeys") {
+      answer = sentkeys();
     } else {
       answer = "\"what?\"";
     }
