@@ -114,7 +114,7 @@ class WineSession:
 
     def run(self, *command):
         """A program that has to end well."""
-        log = self.folder / "run"
+        log = self.folder / "output"
         with open(log, "wb") as output:
             program = self.start(WINE, *command, stdout=output, stderr=output)
         assert program.wait(LIMIT) == 0, log.read_text(encoding="utf-8", errors="replace")
