@@ -27,14 +27,13 @@ class ProgramFolder {
     static std::atomic<int> count = 0;
     path = scratchfolder() / pathof("duskmarch żółw ψ " + std::to_string(processid()) + "-" +
                                     std::to_string(++count));
-    std::filesystem::create_directories(path);
+    std::filesystem::remove_all(path);  // of one that was killed
     std::filesystem::create_directories(path / "sounds");
     for (const std::string name : {"sounds/menu", "sounds/game"}) {
       std::filesystem::copy(SOURCE_FOLDER / std::filesystem::path(name), path / name);
     }
     for (const std::string name : {"sounds/cues", "sounds/ambience"}) {  // large, and only read
-      std::filesystem::create_directory_symlink(SOURCE_FOLDER / std::filesystem::path(name),
-                                                path / name);
+      sharefolder(SOURCE_FOLDER / std::filesystem::path(name), path / name);
     }
   }
   ~ProgramFolder() {

@@ -25,24 +25,32 @@ Samples biquad(const Samples& samples, const double (&b)[3], const double (&a)[2
 
 using Spectrum = std::vector<std::complex<double>>;
 
-Spectrum transformed(const Spectrum& in) {
-  if (in.size() == 1) return in;
-  Spectrum even, odd;
-  for (std::size_t n = 0; n < in.size(); n += 2) {
-    even.push_back(in[n]);
-    odd.push_back(in[n + 1]);
+// A whole turn, in as many steps as a window has samples.
+const Spectrum& turns() {
+  static const auto table = [] {
+    Spectrum result;
+    for (std::size_t n = 0; n < window; ++n) {
+      result.push_back(std::polar(1.0, -2 * std::numbers::pi * static_cast<double>(n) / window));
+    }
+    return result;
+  }();
+  return table;
+}
+
+// Of every `step`th of the samples from `in` on, as many as fit into a window.
+void transform(const std::complex<double>* in, std::size_t step, std::complex<double>* out) {
+  if (step == window) {
+    *out = *in;
+    return;
   }
-  even = transformed(even);
-  odd = transformed(odd);
-  Spectrum result(in.size());
-  const std::size_t half = in.size() / 2;
+  const std::size_t half = window / step / 2;
+  transform(in, 2 * step, out);
+  transform(in + step, 2 * step, out + half);
   for (std::size_t n = 0; n < half; ++n) {
-    const double turn = -std::numbers::pi * static_cast<double>(n) / static_cast<double>(half);
-    const auto part = std::polar(1.0, turn) * odd[n];
-    result[n] = even[n] + part;
-    result[n + half] = even[n] - part;
+    const auto part = turns()[n * step] * out[half + n];
+    out[half + n] = out[n] - part;
+    out[n] += part;
   }
-  return result;
 }
 
 Spectrum spectrum(const Samples& sound, std::size_t frame) {
@@ -50,10 +58,11 @@ Spectrum spectrum(const Samples& sound, std::size_t frame) {
   for (std::size_t n = 0; n < window; ++n) {
     const std::size_t place = frame * hop + n;
     if (place < window / 2 || place - window / 2 >= sound.size()) continue;
-    const double turn = 2 * std::numbers::pi * static_cast<double>(n) / window;
-    part[n] = sound[place - window / 2] * (0.5 - 0.5 * std::cos(turn));
+    part[n] = sound[place - window / 2] * (0.5 - 0.5 * turns()[n].real());
   }
-  return transformed(part);
+  Spectrum result(window);
+  transform(part.data(), 1, result.data());
+  return result;
 }
 
 // Bands overlap, each a triangle over the logarithm of the frequency.

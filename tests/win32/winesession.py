@@ -131,13 +131,13 @@ class WineSession:
         self.run("reg", "delete", r"HKLM\Software\Classes\FreedomSci.JawsApi", "/f")
 
     def start_program(self, program, **environment):
-        return self.start(WINE, program, env={**os.environ, **environment})
+        self.program = self.start(WINE, program, env={**os.environ, **environment})
 
     def play(self, program):
         """Starts the game; returns when its window is there."""
-        game = self.start_program(program)
-        wait(lambda: game.poll() is not None or self.window("Duskmarch"), "the window")
-        return game
+        self.start_program(program)
+        self.expect(lambda: self.program.poll() is not None or self.window("Duskmarch"),
+                    "the window")
 
     # What a screen reader finds.
 

@@ -27,6 +27,11 @@ inline std::filesystem::path scratchfolder() {
   return access(memory.c_str(), W_OK) == 0 ? memory : std::filesystem::temp_directory_path();
 }
 
+// Shows a folder of files, which nobody writes to, in another place too.
+inline void sharefolder(const std::filesystem::path& folder, const std::filesystem::path& place) {
+  std::filesystem::create_directory_symlink(folder, place);
+}
+
 // A named pipe, whose reader would wait for a writer. Whether it could be made.
 inline bool makepipe(const std::filesystem::path& path) {
   return mkfifo(path.c_str(), 0600) == 0;
