@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <span>
 
 #include "heroturn/abilitynumbers.h"
 #include "resolution/tags.h"
@@ -25,8 +26,12 @@ bool foewithin(const Mob& mob, const Mob& other, int reach) {
   return foe(mob, other) && !sametile(mob, other) && tilesapart(mob, other) <= reach;
 }
 
-const Order* firstorderof(std::string_view ability) {
-  return std::ranges::find(orders, ability, &Order::ability);
+// The rows of an ability, which stand together; of none, what everybody can do.
+std::span<const Order> ordersof(std::string_view ability) {
+  const auto* const first = std::ranges::find(orders, ability, &Order::ability);
+  const auto* last = first;
+  while (last != orders.end() && last->ability == ability) ++last;
+  return {first, last};
 }
 
 // Calls `use` for each ability of which a use is left, in the mob's own order.
@@ -52,9 +57,8 @@ bool helplesslyheld(const Game& game, const Mob& mob) {
   if (mob.engaged != 1 || hastag(mob.action, tag::fight)) return false;
   bool helpless = true;
   foreachability(mob, [&](std::string_view ability) {
-    for (const Order* row = firstorderof(ability); row != orders.end() && row->ability == ability;
-         ++row) {
-      if (servesasawayout(game, mob, *row)) helpless = false;
+    for (const Order& row : ordersof(ability)) {
+      if (servesasawayout(game, mob, row)) helpless = false;
     }
   });
   return helpless;
@@ -65,39 +69,33 @@ class Listing {
   Listing(const Game& game, const Mob& mob) : game_(game), mob_(mob) {}
 
   // What needs no ability and no furniture.
-  void offerbasics() { offerorders({}); }
+  void offerbasics() { offerorders(ordersof({})); }
 
   void offerabilities() {
     foreachability(mob_, [this](std::string_view ability) {
-      offerorders(ability);
-      offerfurniture(ability);
+      const std::span<const Order> rows = ordersof(ability);
+      offerorders(rows);
+      offerfurniture(rows);
     });
   }
 
   // The orders that take furniture, piece by piece.
-  void offerfurniture(std::string_view ability) {
+  void offerfurniture(std::span<const Order> rows) {
+    if (std::ranges::all_of(rows, &std::string_view::empty, &Order::furniture)) return;
     for (const Item& item : furnitureon(game_, tileof(mob_))) {
-      foreachrow(ability, [&](const Order& row) {
+      for (const Order& row : rows) {
         if (row.furniture == item.itemname) offers_.push_back({&row});
-      });
+      }
     }
   }
 
   std::vector<Offer> done() && { return std::move(offers_); }
 
  private:
-  template <typename Take>
-  static void foreachrow(std::string_view ability, Take take) {
-    for (const Order* row = firstorderof(ability); row != orders.end() && row->ability == ability;
-         ++row) {
-      take(*row);
-    }
-  }
-
-  void offerorders(std::string_view ability) {
-    foreachrow(ability, [this](const Order& row) {
+  void offerorders(std::span<const Order> rows) {
+    for (const Order& row : rows) {
       if (row.furniture.empty()) offer(row);
-    });
+    }
   }
 
   void offer(const Order& row) {
@@ -169,7 +167,7 @@ std::vector<Offer> offers(const Game& game, int slot) {
   listing.offerbasics();
   if (mob.hasacted == 0) {
     listing.offerabilities();
-    listing.offerfurniture({});
+    listing.offerfurniture(ordersof({}));
   }
   return std::move(listing).done();
 }
