@@ -16,6 +16,7 @@
 #include "values/filelookup.h"
 #include "values/number.h"
 #include "values/saidlines.h"
+#include "values/speechrate.h"
 
 namespace duskmarch {
 

@@ -1,5 +1,7 @@
 #include "invariants.h"
 
+#include "values/speechrate.h"
+
 #include <string_view>
 
 namespace duskmarch {

@@ -126,13 +126,6 @@ class Dialogs {
   virtual void message(std::string_view title, std::string_view text) = 0;
 };
 
-// How fast the voice speaks.
-namespace speechrate {
-inline constexpr int slowest = 1;
-inline constexpr int fastest = 10;
-inline constexpr int usual = 2;
-}  // namespace speechrate
-
 // The voice that the game drives itself.
 class Voice {
  public:

@@ -18,6 +18,7 @@
 #include "shell/speech/speech.h"
 #include "shell/speech/spokenline.h"
 #include "values/pathtext.h"
+#include "values/speechrate.h"
 #include "world/chance.h"
 #include "world/drawnmap.h"
 #include "world/nexthero.h"

@@ -8,6 +8,7 @@
 
 #include "platform/voice/engines.h"
 #include "platform/voice/plaintext.h"
+#include "values/speechrate.h"
 
 namespace duskmarch {
 namespace {

@@ -3,6 +3,7 @@
 #include "shell/speech/settingsfile.h"
 #include "shell/speech/speech.h"
 #include "values/filelookup.h"
+#include "values/speechrate.h"
 #include "values/textfile.h"
 
 namespace duskmarch {

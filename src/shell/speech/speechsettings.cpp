@@ -8,6 +8,7 @@
 #include "shell/speech/speech.h"
 #include "shell/speech/speechengines.h"
 #include "shell/speech/title.h"
+#include "values/speechrate.h"
 
 namespace duskmarch {
 
