@@ -3,6 +3,7 @@
 #include <string>
 
 #include "platform/files.h"
+#include "values/textfile.h"
 
 namespace duskmarch {
 

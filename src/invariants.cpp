@@ -1,8 +1,8 @@
 #include "invariants.h"
 
-#include "values/speechrate.h"
-
 #include <string_view>
+
+#include "values/speechrate.h"
 
 namespace duskmarch {
 

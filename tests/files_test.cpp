@@ -5,6 +5,7 @@
 #include "debuglog.h"
 #include "harness.h"
 #include "shell/speech/progress.h"
+#include "values/textfile.h"
 
 namespace duskmarch {
 namespace {

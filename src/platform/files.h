@@ -19,8 +19,6 @@ class FileError : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-inline constexpr std::size_t largesttextfile = 1U << 20;
-
 // All of a regular file of at most largesttextfile bytes.
 std::string readtextfile(const std::filesystem::path& file);
 

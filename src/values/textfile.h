@@ -2,6 +2,7 @@
 // minus sign) before it and one space after it, a value never set as an empty line.
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -10,6 +11,8 @@
 #include "values/number.h"
 
 namespace duskmarch {
+
+inline constexpr std::size_t largesttextfile = 1U << 20;  // bytes; a larger one is refused
 
 // The lines of what a file held, read with or without the CR; a last line without its end counts.
 std::vector<std::string> splitlines(std::string_view text);

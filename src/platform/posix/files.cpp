@@ -9,6 +9,7 @@
 #include <unistd.h>
 
 #include "platform/posix/openfile.h"
+#include "values/textfile.h"
 
 namespace duskmarch {
 

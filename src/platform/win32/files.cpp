@@ -7,6 +7,7 @@
 
 #include "platform/win32/openfile.h"
 #include "platform/win32/text.h"
+#include "values/textfile.h"
 
 namespace duskmarch {
 
