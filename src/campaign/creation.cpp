@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "campaign/bonustable.h"
+#include "campaign/creationbonuses.h"
 #include "campaign/learning.h"
 #include "campaign/savegame.h"
 #include "campaign/screens.h"

@@ -1,4 +1,4 @@
-#include "campaign/bonustable.h"
+#include "campaign/creationbonuses.h"
 
 namespace duskmarch {
 namespace {
