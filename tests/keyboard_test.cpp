@@ -4,6 +4,7 @@
 
 #include "harness.h"
 #include "heroturn/optionlist.h"
+#include "shell/buttons.h"
 #include "shell/speech/hold.h"
 #include "shell/speech/speech.h"
 #include "shell/startup.h"

@@ -7,10 +7,7 @@
 #include "audio/cues.h"
 #include "audio/sounds.h"
 #include "debuglog.h"
-#include "heroturn/dooption.h"
-#include "heroturn/optionlist.h"
 #include "missions/missions.h"
-#include "resolution/endturn.h"
 #include "shell/speech/comfort.h"
 #include "shell/speech/guarded.h"
 #include "shell/speech/pages.h"
@@ -21,7 +18,6 @@
 #include "values/speechrate.h"
 #include "world/chance.h"
 #include "world/drawnmap.h"
-#include "world/nexthero.h"
 #include "world/tables.h"
 
 namespace duskmarch {
@@ -120,23 +116,6 @@ void readerfound(Game& game) {
   guarded(game, [&] {
     game.sapivoice->speakafter("Press Tab once, and your screen reader speaks instead.");
   });
-}
-
-void command1_click(Game& game) {
-  endturn(game);
-}
-
-void command2_click(Game& game) {
-  const auto line = static_cast<std::size_t>(game.menupos) - 1;
-  if (line < game.list2.size()) dooption(game, game.list2[line]);
-}
-
-void command3_click(Game& game) {
-  const int next = nexthero(game);
-  if (next != 0) game.selected = next;
-  game.command3 = game.mob(game.selected).mobname;
-  listoptions(game, 0);
-  drawscreen(game);
 }
 
 }  // namespace duskmarch

@@ -1,4 +1,4 @@
-// The main window: start-up, repaint and the clicks of its hidden buttons.
+// The main window: start-up and repaint.
 #pragma once
 
 #include "game.h"
@@ -14,11 +14,5 @@ void repaint(Game& game);
 // The front end has found a screen reader: at a first start the player is told how to hear the game
 // through it, after what is being said.
 void readerfound(Game& game);
-
-// What buttons do in a front end that shows some: end the turn; perform the option at the menu
-// position; select the next living hero.
-void command1_click(Game& game);
-void command2_click(Game& game);
-void command3_click(Game& game);
 
 }  // namespace duskmarch
