@@ -1,7 +1,7 @@
 // A fight written down in one line, to arrange it and to compare what became of it.
 //
 // "Vesper 2,3 20 4" is a name, a place, health and skill; then conditions, plans and "gun" for a
-// gunman: "Tony 2,1 16 3 gun [Dazed][Netted] plans[Loaded]", or "plans[Kick_East]" with a space. In slot order, parted by " | ", the
+// gunman: "Tony 2,1 16 3 gun [Dazed][Netted] plans[Loaded]". In slot order, parted by " | ", the
 // furniture last: "Table 2,3 1". Heroes are Vesper, Nora and Bly, of a full health of 20; everyone
 // else is an enemy whose target is slot 1. Vesper and Vicky are women.
 // Also understood are "moved", "acted", "engaged", "t2" (another target), "leads" (a gifted enemy)

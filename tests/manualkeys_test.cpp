@@ -143,7 +143,8 @@ const std::vector<Screen> menus = {{"main menu", [](Player& player) { player.pre
                                     }}};
 const Screen map = {"map", tothemap};
 const std::vector<Screen> pages = {{"story", [](Player& player) { perform(player, 2); }},
-                                   {"summary", [](Player& player) {
+                                   {"summary",
+                                    [](Player& player) {
                                       tothemap(player);
                                       player.press(key::e, modifier::shift);
                                     }},
@@ -184,7 +185,8 @@ TEST(ManualKeys, AreThoseOfTheGame) {
   const Keys everywhere = keysofthemanual("Keys that work on every screen", names);
   const Keys inmenus = keysofthemanual("Keys in menus", names);
   const Keys inmissions = keysofthemanual("Keys in a mission", names);
-  const Keys onpages = keysofthemanual("Keys in the turn summary, on story pages and on help pages", names);
+  const Keys onpages =
+      keysofthemanual("Keys in the turn summary, on story pages and on help pages", names);
 
   const Keys onthemap = keysofthegame(map);
   EXPECT_TRUE(holds(onthemap, everywhere)) << listed(onthemap);

@@ -34,7 +34,8 @@ TEST(PlayerKeys, SmokeAndTablesStopGuns) {
            {"[Smoke][Smoke]",
             "No danger that you know of, fights apart.  The smoke at B 2 stops the gun of Moe."},
            {"[Table]",
-            "No danger that you know of, fights apart.  The overturned table at B 2 stops the gun of Moe."}}) {
+            "No danger that you know of, fights apart.  The overturned table at B 2 stops the gun "
+            "of Moe."}}) {
     Player player;
     Game& game = player.game();
     arrange(game, "Vesper 2,2 20 4 | Moe 1,1 7 2 gun plans[Shoot,2,2]");

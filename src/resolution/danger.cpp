@@ -46,7 +46,8 @@ class Dangers {
   std::string words() const {
     const std::string dangers = tosomebody_ + tonobody_;
     const std::string all =
-        (dangers.empty() ? std::string("No danger that you know of, fights apart.  ") : dangers) + stopped_;
+        (dangers.empty() ? std::string("No danger that you know of, fights apart.  ") : dangers) +
+        stopped_;
     return all.substr(0, all.find_last_not_of(' ') + 1);
   }
 

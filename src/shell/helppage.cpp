@@ -20,9 +20,12 @@ namespace {
 
 // By `menuname`: where one is, and what to do there.
 constexpr std::array<std::string_view, 6> openings = {
-    "Help for the map.  Letters go from west to east, numbers from north to south.  Each turn every "
-    "hero may move once and act once.  Explore with the arrows, walk with Enter, fight by the orders "
-    "behind Space, ask D for danger, and end the turn with Shift+E.  The summary that follows closes "
+    "Help for the map.  Letters go from west to east, numbers from north to south.  Each turn "
+    "every "
+    "hero may move once and act once.  Explore with the arrows, walk with Enter, fight by the "
+    "orders "
+    "behind Space, ask D for danger, and end the turn with Shift+E.  The summary that follows "
+    "closes "
     "with Enter.",
     "Help for the main menu.  Start new game leads to your hideout.",
     "Help for creating a vigilante.  Enter changes what you hear; the last entry finishes.",

@@ -129,7 +129,8 @@ LRESULT CALLBACK keyseen(int code, WPARAM message, LPARAM details) {
   if (code == HC_ACTION && (key.flags & LLKHF_INJECTED) != 0) {
     const bool down = message == WM_KEYDOWN || message == WM_SYSKEYDOWN;
     const std::lock_guard guard(sentmutex);
-    sent += (sent.empty() ? "\"" : ",\"") + std::to_string(key.vkCode) + (down ? " down\"" : " up\"");
+    sent +=
+        (sent.empty() ? "\"" : ",\"") + std::to_string(key.vkCode) + (down ? " down\"" : " up\"");
   }
   return CallNextHookEx(nullptr, code, message, details);
 }
