@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <chrono>
 #include <cstdint>
 #include <deque>
 #include <filesystem>
@@ -138,6 +139,17 @@ struct Music {
   int musicvolume = 0;  // the percentage where none is given
 };
 
+struct Game;
+
+// Settings whose file another program had open when they were to be written; see
+// shell/speech/settingsfile.h.
+struct BusySettings {
+  std::string name;
+  std::string text;
+  void (*failed)(Game& game);
+  std::chrono::steady_clock::time_point until;
+};
+
 // Where key presses go.
 enum class Focus { window, summarylabel, storylabel, helplabel };
 
@@ -179,6 +191,7 @@ struct Game {  // NOLINT(clang-analyzer-optin.performance.Padding)
   int ambiencevolume = 4;
   std::string voicename;            // of the own voice; empty for the default
   bool comfortfailuretold = false;  // the player knows that these are not saved
+  std::vector<BusySettings> busysettings;
 
   // Speech.
   int speechmode = speechmode::sapi;

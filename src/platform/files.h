@@ -19,6 +19,12 @@ class FileError : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
+// Another program has the file open; a moment later it may not any more.
+class FileBusy : public FileError {
+ public:
+  using FileError::FileError;
+};
+
 // All of a regular file of at most largesttextfile bytes.
 std::string readtextfile(const std::filesystem::path& file);
 
@@ -48,8 +54,12 @@ class FileWriter {
   std::size_t size_ = 0;
 };
 
+// Where another program has the file open and the system minds: to wait half a second for it, or to
+// throw FileBusy.
+enum class Patience { some, none };
 // Replaces what is called `to`, if that is no folder, in one step. A link is renamed itself.
-void renamefile(const std::filesystem::path& from, const std::filesystem::path& to);
+void renamefile(const std::filesystem::path& from, const std::filesystem::path& to,
+                Patience patience = Patience::some);
 
 // What changes with a file's content.
 struct FileStamp {

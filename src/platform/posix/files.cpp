@@ -121,7 +121,8 @@ void FileWriter::close() {
   if (::close(descriptor(std::exchange(handle_, closed))) != 0) fail("it cannot be closed");
 }
 
-void renamefile(const std::filesystem::path& from, const std::filesystem::path& to) {
+void renamefile(const std::filesystem::path& from, const std::filesystem::path& to,
+                Patience /*patience*/) {
   if (::rename(from.c_str(), to.c_str()) != 0) fail("it cannot be renamed");
 }
 

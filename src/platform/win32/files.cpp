@@ -99,14 +99,17 @@ void FileWriter::close() {
   if (CloseHandle(systemhandle(std::exchange(handle_, closed))) == 0) fail("it cannot be closed");
 }
 
-void renamefile(const std::filesystem::path& from, const std::filesystem::path& to) {
+void renamefile(const std::filesystem::path& from, const std::filesystem::path& to,
+                Patience patience) {
   for (int tries = 1;; ++tries) {
     if (MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) !=
         0) {
       return;
     }
     const DWORD error = GetLastError();
-    if (tries == mosttries || !mayyetsucceed(error, to)) fail("it cannot be renamed", error);
+    const bool busy = mayyetsucceed(error, to);
+    if (busy && patience == Patience::none) throw FileBusy("it is open in another program");
+    if (!busy || tries == mosttries) fail("it cannot be renamed", error);
     Sleep(betweentries);
   }
 }

@@ -12,6 +12,7 @@
 #include "platform/win32/screens.h"
 #include "platform/win32/text.h"
 #include "shell/keyboard.h"
+#include "shell/speech/settingsfile.h"
 #include "shell/startup.h"
 
 namespace duskmarch {
@@ -21,6 +22,8 @@ namespace {
 constexpr auto classname = L"Duskmarch";
 constexpr UINT callposted = WM_APP;
 constexpr UINT_PTR readertimer = 1;
+constexpr UINT_PTR settingstimer = 2;
+constexpr UINT betweentries = 20;    // milliseconds
 constexpr UINT betweenlooks = 1000;  // milliseconds
 constexpr DWORD style = WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN;
 constexpr SIZE startsize{1288, 660};
@@ -109,6 +112,7 @@ void Win32Window::run(int how) {
   SetForegroundWindow(handle_);
   SetTimer(handle_, readertimer, betweenlooks, nullptr);
   while (handleevents()) WaitMessage();
+  while (game_ != nullptr && trysettingsagain(*game_)) Sleep(betweentries);
 }
 
 void Win32Window::end() {
@@ -136,6 +140,10 @@ void Win32Window::lookforreader() {
   if (readerseen_ && !before && game_ != nullptr) readerfound(*game_);
 }
 
+void Win32Window::keepsettings() {
+  if (game_ == nullptr || !trysettingsagain(*game_)) KillTimer(handle_, settingstimer);
+}
+
 void Win32Window::cover(HWND page) {
   pages_.push_back(page);
   placepages();
@@ -156,6 +164,7 @@ bool Win32Window::takekey(WPARAM key, LPARAM details) {
   const auto time = static_cast<DWORD>(GetMessageTime());
   if (const auto press = virtualkey(key, details, time); press && game_ != nullptr) {
     keypress(*game_, *press);
+    if (!game_->busysettings.empty()) SetTimer(handle_, settingstimer, betweentries, nullptr);
   }
   return true;
 }
@@ -266,7 +275,10 @@ LRESULT Win32Window::handle(UINT message, WPARAM first, LPARAM second) {
       if (first != FALSE) end();
       return 0;
     case WM_CLOSE: end(); return 0;
-    case WM_TIMER: lookforreader(); return 0;
+    case WM_TIMER:
+      if (first == readertimer) lookforreader();
+      if (first == settingstimer) keepsettings();
+      return 0;
     case callposted: makepostedcalls(); return 0;
     default: break;
   }

@@ -48,6 +48,11 @@ void changevolume(Game& game, int& volume, int step) {
   keepcomfort(game);
 }
 
+void tellfailure(Game& game) {
+  if (std::exchange(game.comfortfailuretold, true)) return;
+  addsentence(game, "These settings cannot be kept.");
+}
+
 }  // namespace
 
 void readcomfort(Game& game) {
@@ -64,9 +69,7 @@ void keepcomfort(Game& game) {
   const std::string text = numberline(game.fulldescriptions ? 1 : 0) + "\r\n" +
                            numberline(game.cuevolume) + "\r\n" + numberline(game.ambiencevolume) +
                            "\r\n" + game.voicename + "\r\n";
-  if (writesettings(game, comfortfile, text) || game.comfortfailuretold) return;
-  game.comfortfailuretold = true;
-  addsentence(game, "These settings cannot be kept.");
+  writesettings(game, comfortfile, text, tellfailure);
 }
 
 void toggledescriptions(Game& game) {

@@ -1,5 +1,7 @@
 #include "shell/speech/progress.h"
 
+#include <utility>
+
 #include "shell/speech/settingsfile.h"
 #include "shell/speech/speech.h"
 #include "values/filelookup.h"
@@ -12,12 +14,18 @@ namespace {
 
 constexpr std::string_view progressfile = "progress.ini";
 
+void tellfailure(Game& game) {
+  if (std::exchange(game.writefailuretold, true)) return;
+  addsentence(game, "Your speech settings cannot be saved.  The game goes on without saving.");
+}
+
 }  // namespace
 
-bool saveprogress(const Game& game) {
-  return writesettings(game, progressfile,
-                       numberline(game.speechmode) + "\r\n" + numberline(game.sapirate) + "\r\n" +
-                           game.progressspare + "\r\n");
+void saveprogress(Game& game) {
+  writesettings(game, progressfile,
+                numberline(game.speechmode) + "\r\n" + numberline(game.sapirate) + "\r\n" +
+                    game.progressspare + "\r\n",
+                tellfailure);
 }
 
 void readprogress(Game& game) {

@@ -5,9 +5,9 @@
 
 namespace duskmarch {
 
-// Rewrites the file from `speechmode`, `sapirate` and `progressspare`; whether that could be done.
-// When it could not, what was there is there still.
-bool saveprogress(const Game& game);
+// Rewrites the file from `speechmode`, `sapirate` and `progressspare`. That this fails is told
+// once, with what is said next.
+void saveprogress(Game& game);
 // Takes over what the file holds, and gives the voice its rate; what is missing or makes no sense
 // keeps its start value.
 void readprogress(Game& game);

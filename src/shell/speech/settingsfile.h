@@ -19,7 +19,13 @@ std::optional<int> setting(std::string_view line, int least, int most);
 // that can be read.
 std::optional<std::vector<std::string>> readsettings(const Game& game, std::string_view name,
                                                      std::size_t count, std::string_view what);
-// Writes it anew; false when that cannot be done: then what was there is there still.
-bool writesettings(const Game& game, std::string_view name, std::string_view text);
+// Writes it anew. Where that cannot be done, what was there is there still, and `failed` is called:
+// at once, or, where another program has the file open, when that has been so for half a second.
+void writesettings(Game& game, std::string_view name, std::string_view text,
+                   void (*failed)(Game& game));
+// Tries again what another program has kept from being written; whether anything is left to try. A
+// front end calls it every few hundredths of a second while there are `busysettings`, and at the
+// end of the program until it is done.
+bool trysettingsagain(Game& game);
 
 }  // namespace duskmarch

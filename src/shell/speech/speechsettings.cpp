@@ -18,13 +18,6 @@ std::string restingtitle(const Game& game) {
   return "Quorvane's Duskmarch (v" + game.version + ")";
 }
 
-// Keeps the settings from run to run; that this fails is told once, with what is said next.
-void keepsettings(Game& game) {
-  if (saveprogress(game) || game.writefailuretold) return;
-  game.writefailuretold = true;
-  addsentence(game, "Your speech settings cannot be saved.  The game goes on without saving.");
-}
-
 // Its sound announces an engine; words only say that another one had to be taken.
 void announce(Game& game, const SpeechEngine& chosen, bool there) {
   if (chosen.resttitle) settitle(game, restingtitle(game));
@@ -40,7 +33,7 @@ void switchengine(Game& game) {
   const bool there = chosen.there(game);
   if (!there) game.speechmode = chosen.fallback;
   announce(game, chosen, there);
-  keepsettings(game);
+  saveprogress(game);
   if (!there) sayit(game, chosen.whenmissing);
   sayadded(game);
 }
@@ -48,7 +41,7 @@ void switchengine(Game& game) {
 void changerate(Game& game, int step) {
   game.sapirate = std::clamp(game.sapirate + step, speechrate::slowest, speechrate::fastest);
   giverate(game);
-  keepsettings(game);
+  saveprogress(game);
   sayit(game, "Sapi rate changed to " + std::to_string(game.sapirate) + ".");
 }
 
