@@ -238,7 +238,8 @@ class Ears:
         def over():
             data = self.played()
             return any(data) and not any(data[-QUIET * FRAME:])
-        wait(over, "a sound and its end")
+        wait(over, lambda: f"a sound and its end, in {len(self.played())} bytes, of which "
+                           f"{len(self.played().rstrip(bytes(1)))} before silence")
         samples = array.array("f", self.played())
         sounding = [n for n in range(0, len(samples), 2) if samples[n] or samples[n + 1]]
         return [samples[n] for n in sounding], [samples[n + 1] for n in sounding]
