@@ -13,6 +13,7 @@ from winesession import LIMIT, WineSession, loudness, wav_samples, windows_path
 
 PROMPT = "Enter N S E W to choose your direction, or leave blank to cancel."
 STORY = "Nightjar and Steelwing storm into a pool hall"
+BEGIN = 480  # samples
 READONLY, MULTILINE = 0x800, 0x4
 
 
@@ -207,12 +208,16 @@ def sounds_are_heard_as_they_are_recorded(game, folder):
     game.play(folder / "duskmarch.exe")
     game.expect_focus("Duskmarch", "Welcome to Duskmarch")
     for key, sound in (("Down", "arrows"), ("Tab", "WE")):
-        expected = loudness(wav_samples(folder / "sounds" / "menu" / (sound + ".wav")))
+        expected = [sample for sample in wav_samples(folder / "sounds" / "menu" / (sound + ".wav"))
+                    if sample]
         with game.listening() as ears:
             game.press(key)
             left, right = ears.next_sound()
-        assert math.isclose(loudness(left), expected, abs_tol=0.01), (sound, loudness(left), expected)
         assert left == right, sound
+        # A busy machine may lose a few samples on the way, but not make others of them.
+        begin = zip(left[:BEGIN], expected[:BEGIN])
+        assert all(math.isclose(*pair, rel_tol=0.001, abs_tol=1e-6) for pair in begin), sound
+        assert math.isclose(loudness(left), loudness(expected), abs_tol=0.5), sound
     close(game)
 
 
