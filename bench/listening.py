@@ -22,6 +22,11 @@ LONG = ("I have enjoyed playing it, but I have been relying on visual input and 
         "well it will translate into audio, and this line goes on for quite a while. ") * 3
 
 
+def without_ambience(folder):
+    """The game in the folder plays what it is measured by, and nothing else."""
+    (pathlib.Path(folder) / "comfort.ini").write_bytes(b" 1 \r\n 0 \r\n 0 \r\n\r\n")
+
+
 class Monitor:
     """What reaches a sink, by default the system's own, sample by sample, and when."""
 
