@@ -46,4 +46,5 @@ int main() {
     }
     std::cout << (done ? "yes" : "no") << std::endl;
   }
+  music.reset();  // while the system's objects are still there
 }
