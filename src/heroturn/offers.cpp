@@ -1,6 +1,7 @@
 #include "heroturn/offers.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdlib>
 #include <span>
 
@@ -26,12 +27,37 @@ bool foewithin(const Mob& mob, const Mob& other, int reach) {
   return foe(mob, other) && !sametile(mob, other) && tilesapart(mob, other) <= reach;
 }
 
-// The rows of an ability, which stand together; of none, what everybody can do.
+struct AbilityRows {
+  std::string_view ability;
+  std::span<const Order> rows;
+};
+
+constexpr bool beginsrows(std::size_t row) {
+  return row == 0 || orders[row].ability != orders[row - 1].ability;
+}
+
+constexpr std::size_t abilitycount = [] {
+  std::size_t count = 0;
+  for (std::size_t row = 0; row < orders.size(); ++row) count += beginsrows(row) ? 1 : 0;
+  return count;
+}();
+
+// An ability's rows stand together. Looked up often, so found once.
+constexpr auto rowsbyability = [] {
+  std::array<AbilityRows, abilitycount> found;
+  std::size_t next = 0;
+  for (std::size_t row = 0; row < orders.size(); ++row) {
+    if (beginsrows(row)) found[next++] = {orders[row].ability, {&orders[row], 0}};
+    std::span<const Order>& rows = found[next - 1].rows;
+    rows = {rows.data(), rows.size() + 1};
+  }
+  return found;
+}();
+
+// Of no ability: what everybody can do.
 std::span<const Order> ordersof(std::string_view ability) {
-  const auto* const first = std::ranges::find(orders, ability, &Order::ability);
-  const auto* last = first;
-  while (last != orders.end() && last->ability == ability) ++last;
-  return {first, last};
+  const auto* const found = std::ranges::find(rowsbyability, ability, &AbilityRows::ability);
+  return found == rowsbyability.end() ? std::span<const Order>() : found->rows;
 }
 
 // Calls `use` for each ability of which a use is left, in the mob's own order.
@@ -64,9 +90,15 @@ bool helplesslyheld(const Game& game, const Mob& mob) {
   return helpless;
 }
 
+constexpr std::size_t usuallyenough = 16;
+
 class Listing {
  public:
-  Listing(const Game& game, const Mob& mob) : game_(game), mob_(mob) {}
+  Listing(const Game& game, const Mob& mob) : game_(game), mob_(mob) {
+    standing_.reserve(static_cast<std::size_t>(game.mobcount));
+    for (const Mob& other : standing(game)) standing_.push_back(&other);
+    offers_.reserve(usuallyenough);
+  }
 
   // What needs no ability and no furniture.
   void offerbasics() { offerorders(ordersof({})); }
@@ -103,13 +135,14 @@ class Listing {
       if (row.when == nullptr || row.when(mob_)) offers_.push_back({&row});
       return;
     }
-    for (const Mob& other : standing(game_)) {
-      if (row.upon(game_, mob_, other)) offers_.push_back({&row, slotof(game_, other)});
+    for (const Mob* const other : standing_) {
+      if (row.upon(game_, mob_, *other)) offers_.push_back({&row, slotof(game_, *other)});
     }
   }
 
   const Game& game_;
   const Mob& mob_;
+  std::vector<const Mob*> standing_;
   std::vector<Offer> offers_;
 };
 
