@@ -1,0 +1,176 @@
+// The game as its player hears it: keys go in, and what comes out is read off the mixer's samples.
+#include <algorithm>
+#include <cmath>
+
+#include "../ground.h"
+#include "../harness.h"
+#include "audio/cues.h"
+#include "heroturn/dooption.h"
+#include "platform/sound/levels.h"
+#include "platform/sound/mixedsounds.h"
+#include "platform/sound/wavfile.h"
+#include "resolution/endturn.h"
+#include "shell/speech/selfreading.h"
+
+namespace duskmarch {
+namespace {
+
+using Samples = std::vector<float>;
+
+constexpr std::size_t framesamillisecond = mixrate / 1000;
+constexpr std::size_t threeseconds = 3 * std::size_t{mixrate};
+
+class HeardGame : public testing::Test {
+ protected:
+  HeardGame() {
+    game.ambiencevolume = 0;
+    game.dsound = std::make_unique<MixedSounds>(mixer);
+    setcuevolumes(game);
+  }
+  Samples render(std::size_t frames) const {
+    Samples samples(2 * frames);
+    mixer->render(samples.data(), frames);
+    return samples;
+  }
+  static Samples original(cue::Id id) {
+    return readwav(SOURCE_FOLDER + fileof(cuerow(id))).samples;
+  }
+
+  std::shared_ptr<Mixer> mixer = std::make_shared<Mixer>();
+  Player player;
+  Game& game = player.game();
+};
+
+float highest(const Samples& samples) {
+  float most = 0;
+  for (const float sample : samples) most = std::max(most, std::abs(sample));
+  return most;
+}
+
+// How long something is heard, in frames of stereo.
+std::size_t heardframes(const Samples& samples) {
+  const auto last = std::find_if(samples.rbegin(), samples.rend(), [](float s) { return s != 0; });
+  return (static_cast<std::size_t>(samples.rend() - last) + 1) / 2;
+}
+
+double energy(const Samples& samples, std::size_t side) {
+  double sum = 0;
+  for (std::size_t n = side; n < samples.size(); n += 2) sum += samples[n] * samples[n];
+  return sum;
+}
+
+TEST_F(HeardGame, AnOrderIsHeardWhereItHappensOneThingAfterAnother) {
+  struct Part {
+    cue::Id cue;
+    std::size_t delay;  // milliseconds
+    double left, right;
+  };
+  // On 4 columns the third lies 26 hundredths to the right, and the fourth 80.
+  const Part parts[] = {{cue::kick, 0, std::sqrt(0.74), std::sqrt(1.26)},
+                        {cue::hitenemy, 120, std::sqrt(0.2), std::sqrt(1.8)},
+                        {cue::dazed, 240, std::sqrt(0.2), std::sqrt(1.8)}};
+  arrangefor(game, "Vesper 2,2 20 4 | Tony 3,2 16 3", "Kick Tony");
+  dooption(game, "Kick Tony");
+  const Samples heard = render(72000);
+  std::vector<double> wanted(heard.size());
+  for (const Part& part : parts) {
+    const Samples sound = original(part.cue);
+    const double level = std::pow(10, (cuerow(part.cue).loudness / 100.0 - 6) / 20);  // "Sounds 7."
+    for (std::size_t n = 0; n < sound.size(); ++n) {
+      const std::size_t at = 2 * (part.delay * framesamillisecond + n);
+      wanted[at] += level * part.left * sound[n];
+      wanted[at + 1] += level * part.right * sound[n];
+    }
+  }
+  for (std::size_t n = 0; n < heard.size(); ++n) ASSERT_NEAR(heard[n], wanted[n], 1e-5) << n;
+}
+
+TEST_F(HeardGame, TheCursorIsHeardWhereItIsAndHigherInTheNorth) {
+  game.mapwidth = 5;
+  game.mapheight = 7;
+  game.menuname = screen::map;
+  game.cursormode = 1;
+  game.cursorx = 3;
+  game.cursory = 4;
+  const Samples sound = original(cue::tileempty);
+  const auto last = std::find_if(sound.rbegin(), sound.rend(), [](float s) { return s != 0; });
+  const auto length = static_cast<double>(sound.rend() - last);
+  struct Row {
+    int key;
+    double share;      // of the right side, of the energy of both
+    double semitones;  // up
+  };
+  for (const Row& row : {Row{key::up, 0.5, 1},
+                         {key::up, 0.5, 2},
+                         {key::right, 0.7, 2},
+                         {key::right, 0.9, 2},
+                         {key::down, 0.9, 1},
+                         {key::down, 0.9, 0},
+                         {key::left, 0.7, 0},
+                         {key::left, 0.5, 0},
+                         {key::left, 0.3, 0},
+                         {key::left, 0.1, 0},
+                         {key::down, 0.1, -1},
+                         {key::down, 0.1, -2}}) {
+    render(mixrate);
+    player.press(row.key);
+    const Samples heard = render(mixrate);
+    const double left = energy(heard, 0), right = energy(heard, 1);
+    EXPECT_NEAR(right / (left + right), row.share, 1e-4) << game.cursorx << "," << game.cursory;
+    EXPECT_NEAR(static_cast<double>(heardframes(heard)), length / std::exp2(row.semitones / 12), 3)
+        << game.cursorx << "," << game.cursory;
+  }
+}
+
+TEST_F(HeardGame, AnyKeyEndsWhatIsLeftOfAnEndOfTurn) {
+  const std::function<void()> keys[] = {
+      [&] { player.press(key::ctrl); }, [&] { player.press(key::r); },
+      [&] { player.press(250); },  // one that does nothing
+      [&] { boxkey(game, key::ctrl); }, [&] { boxkey(game, 0); },
+  };
+  arrange(game, "Vesper 1,1 20 4 | Tony 4,3 90 3 | Moe 4,1 90 3 | Al 3,3 90 3");
+  for (const auto& pressakey : keys) {
+    endturn(game);
+    EXPECT_GT(highest(render(4800)), 0.01);  // more begin 0.15 seconds apart
+    pressakey();
+    EXPECT_GT(highest(render(10)), 0) << "no click";
+    render(mixrate / 50);
+    EXPECT_EQ(highest(render(threeseconds)), 0);
+  }
+}
+
+// Everything that can happen, at the place where it lasts longest.
+TEST_F(HeardGame, AnEndOfTurnIsOverInThreeSecondsHoweverMuchItIs) {
+  game.mapwidth = game.mapheight = 15;
+  const std::size_t begin = heardframes(Samples{});
+  for (const int times : {1, 5}) {
+    for (const CueRow& row : cuetable()) {
+      for (int n = 0; n < times; ++n) heard(game, row.id, 15, 15);
+    }
+    playendofturn(game);
+    const std::size_t frames = heardframes(render(2 * threeseconds));
+    EXPECT_GT(frames, begin + mixrate) << times;
+    EXPECT_LE(frames, threeseconds) << times;
+  }
+}
+
+TEST_F(HeardGame, AFileThatIsMissingOrBadIsALineInTheLogAndSilence) {
+  const auto cues = player.folder().path / "sounds/cues";
+  std::filesystem::remove(cues);  // the link to them
+  std::filesystem::create_directory(cues);
+  player.folder().write("sounds/cues/gun-fired.wav", "RIFF and no more");
+  const auto before = player.folder().read("debuglog.txt");
+  for (int times = 0; times < 2; ++times) {
+    arrange(game, "Vesper 1,1 90 4 | Tito 4,3 16 3 gun plans[Shoot,1,1]");
+    EXPECT_FALSE(player.spoken([&] { endturn(game); }).empty());
+    EXPECT_EQ(highest(render(threeseconds)), 0);
+    game.mobcount = 0;
+  }
+  const std::string log = player.folder().read("debuglog.txt").substr(before.size());
+  EXPECT_EQ(std::ranges::count(log, '\n'), 1) << log;
+  EXPECT_TRUE(log.starts_with("error in cues: gun-fired: ")) << log;
+  EXPECT_NE(log.find("; heroes-turn: "), std::string::npos) << log;
+}
+
+}  // namespace
+}  // namespace duskmarch
