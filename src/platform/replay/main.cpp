@@ -19,7 +19,8 @@ constexpr std::string_view usage =
     "usage: duskmarch-replay --folder DIR [--seed N] [--no-voice] [--jaws] [--no-reader]"
     " < script > transcript";
 constexpr int failure = 2;
-constexpr std::size_t flushsize = 1 << 16;
+// As much as fits, with what one more key writes, into 60 KiB.
+constexpr std::size_t flushsize = 48 << 10;
 
 struct BadArguments : std::runtime_error {
   using std::runtime_error::runtime_error;
