@@ -257,6 +257,9 @@ TEST(CuesOfAnEndOfTurn, MoveTogetherWhereThereAreManyAndStepsGoFirst) {
   EXPECT_EQ(countof(events, "hit-hero"), 3);
   EXPECT_TRUE(events.back().starts_with("cue\theroes-turn\t"));
   EXPECT_EQ(lastdelay(events), 1800);
+  events = endwith({{cue::hitenemy, 30}, {cue::step, 30}});
+  EXPECT_EQ(countof(events, "hit-enemy"), 30);
+  EXPECT_EQ(countof(events, "step"), 11);
   events =
       endwith({{cue::hitenemy, 60}, {cue::step, 9}, {cue::enemydown, 20}, {cue::herodown, 30}});
   EXPECT_EQ(countof(events, "step") + countof(events, "hit-enemy"), 0);
