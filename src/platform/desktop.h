@@ -174,7 +174,7 @@ struct Cue {
 using FileOf = std::function<std::filesystem::path(std::string_view name)>;
 
 // Cues, sixteen at once, and one loop for the place where one is. Both have voices of their own
-// beside the numbered buffers and the music, and are softer while the game's own voice speaks.
+// beside the numbered buffers and the music; cues are softer while the game's own voice speaks.
 // `fileof` is asked for a file when its name first comes up; what the file holds is kept.
 class CueDevice {
  public:
