@@ -4,6 +4,7 @@
 
 #include "../ground.h"
 #include "../harness.h"
+#include "../soak.h"
 #include "audio/cues.h"
 #include "heroturn/dooption.h"
 #include "platform/sound/levels.h"
@@ -152,6 +153,24 @@ TEST_F(HeardGame, AnEndOfTurnIsOverInThreeSecondsHoweverMuchItIs) {
     EXPECT_GT(frames, begin + mixrate) << times;
     EXPECT_LE(frames, threeseconds) << times;
   }
+}
+
+TEST_F(HeardGame, AnyKeysInAnyScreenKeepTheSamplesInRange) {
+  RandomScript script(15);
+  float loudest = 0;
+  for (int n = 0; n < 5000 && !game.ended; ++n) {
+    const std::string line = script.line();
+    player.session().perform(line);
+    const Samples heard = render(static_cast<std::size_t>(n) % 7 * 480 + 1);
+    for (const float sample : heard) ASSERT_TRUE(sample >= -1 && sample <= 1) << line;
+    loudest = std::max(loudest, highest(heard));
+  }
+  EXPECT_GT(loudest, 0.1);
+  EXPECT_EQ(player.folder().read("debuglog.txt").find("error in cues"), std::string::npos);
+  stopcues(game);
+  setambience(game, "");
+  render(mixrate);
+  EXPECT_EQ(highest(render(threeseconds)), 0);
 }
 
 TEST_F(HeardGame, AFileThatIsMissingOrBadIsALineInTheLogAndSilence) {
