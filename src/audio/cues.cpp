@@ -44,10 +44,12 @@ Cue cueof(const Game& game, const Sounding& what, int delay) {
           .weight = static_cast<int>(row.weight)};
 }
 
-// Where the file is, or where it should be.
-std::filesystem::path found(Game& game, const std::string& name) {
-  const std::filesystem::path* const file = game.soundfinder.find(game.programfolder, name);
-  return file == nullptr ? game.programfolder / std::string_view(name).substr(1) : *file;
+// Where the file of a cue or of a loop is, or where it should be.
+std::filesystem::path found(Game& game, std::string_view name) {
+  const CueRow* const cue = findcue(name);
+  const std::string wanted = cue != nullptr ? fileof(*cue) : fileof(*findambience(name));
+  const std::filesystem::path* const file = game.soundfinder.find(game.programfolder, wanted);
+  return file == nullptr ? game.programfolder / std::string_view(wanted).substr(1) : *file;
 }
 
 // What goes wrong with a sound is a line in the log and silence.
@@ -71,8 +73,7 @@ void play(Game& game, int gap) {
   }
   game.soundings.clear();
   withdevice(game, [&](CueDevice& device) {
-    device.playcues(game.cues,
-                    [&](std::string_view name) { return found(game, fileof(*findcue(name))); });
+    device.playcues(game.cues, [&](std::string_view name) { return found(game, name); });
   });
 }
 
@@ -148,7 +149,7 @@ void setambience(Game& game, std::string_view name) {
   const AmbienceRow* const row = findambience(name);
   withdevice(game, [&](CueDevice& device) {
     device.setambience(name, row == nullptr ? 0 : row->loudness,
-                       [&](std::string_view) { return found(game, fileof(*row)); });
+                       [&](std::string_view file) { return found(game, file); });
   });
 }
 

@@ -170,12 +170,12 @@ struct Cue {
   int weight = 0;              // of too many at once the lightest go first
 };
 
-// Where the WAV file of a cue or of a loop should be.
+// Where the WAV file of a cue or of a loop should be, whichever of them is named.
 using FileOf = std::function<std::filesystem::path(std::string_view name)>;
 
 // Cues, sixteen at once, and one loop for the place where one is. Both have voices of their own
 // beside the numbered buffers and the music; cues are softer while the game's own voice speaks.
-// `fileof` is asked for a file when its name first comes up; what the file holds is kept.
+// `fileof` is asked once for each, maybe long before it is wanted; what the file holds is kept.
 class CueDevice {
  public:
   virtual ~CueDevice() = default;

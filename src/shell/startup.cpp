@@ -101,8 +101,8 @@ void startup(Game& game) {
                   ", jawsready " + std::to_string(game.jawsready));
   startstate(game);
   setcuevolumes(game);
-  setambience(game, ambienceof(game));
   sayit(game, "Welcome to Duskmarch, version " + game.version + ", by Quorvane.  Main menu.");
+  setambience(game, ambienceof(game));
 }
 
 void repaint(Game& game) {

@@ -1,5 +1,6 @@
 // From the game's calls to the mixer's samples, and to the lines of a transcript.
 #include <cmath>
+#include <set>
 #include <span>
 
 #include "../harness.h"
@@ -82,6 +83,22 @@ TEST_F(CueDevices, AFileIsReadOnceAndABadOneReportedOnce) {
   EXPECT_EQ(render(20000), heard);
 }
 
+TEST_F(CueDevices, AllFilesAreAskedForBeforeTheyAreWanted) {
+  std::multiset<std::string> asked;
+  const auto asking = [&](std::string_view name) {
+    asked.emplace(name);
+    return file(name);
+  };
+  const Cue first[] = {cue("step")};
+  cues.playcues(first, asking);
+  EXPECT_EQ(std::set(asked.begin(), asked.end()).size(), cuetable().size());
+  for (const CueRow& row : cuetable()) {
+    const Cue next[] = {cue(row.name)};
+    cues.playcues(next, asking);
+  }
+  EXPECT_EQ(asked.size(), cuetable().size());
+}
+
 TEST_F(CueDevices, VolumesAreTwoDecibelsAStepAndZeroIsSilence) {
   const Samples full = original("map-edge");
   for (const auto& [volume, decibels] : {std::pair(10, 0.0), {7, -6.0}, {1, -18.0}, {0, -200.0}}) {
@@ -97,7 +114,7 @@ TEST_F(CueDevices, VolumesAreTwoDecibelsAStepAndZeroIsSilence) {
 
 TEST_F(CueDevices, AStopEndsCuesAndLeavesAmbienceAndBuffersAlone) {
   const std::filesystem::path loop = folder.path / "sounds/ambience/dock.wav";
-  const auto dockloop = [&](std::string_view) { return loop; };
+  const auto dockloop = [&](std::string_view name) { return name == "dock" ? loop : file(name); };
   cues.setambience("dock", 0, dockloop);
   render(24000);
   cues.setambience("dock", 0, dockloop);  // goes on where it is

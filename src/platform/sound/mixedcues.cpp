@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "audio/cuetable.h"
 #include "platform/sound/wavfile.h"
 
 namespace duskmarch {
@@ -21,6 +22,12 @@ std::uint64_t framesof(int milliseconds) {
   return static_cast<std::uint64_t>(std::max(milliseconds, 0)) * framesamillisecond;
 }
 
+using ReadTask = std::packaged_task<std::shared_ptr<const Clip>()>;
+
+ReadTask readingof(std::filesystem::path file) {
+  return ReadTask([file = std::move(file)] { return std::make_shared<const Clip>(readwav(file)); });
+}
+
 void complain(const std::string& problems) {
   if (!problems.empty()) throw PlatformError(problems);
 }
@@ -35,6 +42,7 @@ MixedCues::~MixedCues() {
 }
 
 void MixedCues::playcues(std::span<const Cue> cues, const FileOf& fileof) {
+  readahead(fileof);
   const std::uint64_t now = mixer_->now();
   std::vector<TimedSound> sounds;
   std::string problems;
@@ -59,6 +67,7 @@ void MixedCues::setambience(std::string_view name, int loudness, const FileOf& f
   if (name == ambience_) return;
   ambience_ = name;
   mixer_->ambience().stop();
+  readahead(fileof);
   if (name.empty()) return;
   std::string problems;
   if (SharedClip clip = clipof(name, fileof, problems)) {
@@ -78,17 +87,38 @@ void MixedCues::setambiencevolume(int volume) {
   mixer_->ambience().setlevel(levelof(volume));
 }
 
+void MixedCues::readahead(const FileOf& fileof) {
+  if (reader_.joinable()) return;
+  std::vector<ReadTask> tasks;
+  for (const CueRow& cue : cuetable()) {
+    tasks.push_back(readingof(fileof(cue.name)));
+    clips_[std::string(cue.name)] = {.clip = tasks.back().get_future().share()};
+  }
+  reader_ = std::jthread([tasks = std::move(tasks)](const std::stop_token& ending) mutable {
+    for (ReadTask& task : tasks) {
+      if (ending.stop_requested()) return;
+      task();
+    }
+  });
+}
+
 MixedCues::SharedClip MixedCues::clipof(std::string_view name, const FileOf& fileof,
                                         std::string& problems) {
-  if (const auto known = clips_.find(name); known != clips_.end()) return known->second;
-  SharedClip& clip = clips_[std::string(name)];
+  auto known = clips_.find(name);
+  if (known == clips_.end()) {
+    ReadTask task = readingof(fileof(name));
+    task();
+    known = clips_.emplace(name, Reading{.clip = task.get_future().share()}).first;
+  }
+  Reading& reading = known->second;
   try {
-    clip = std::make_shared<const Clip>(readwav(fileof(name)));
+    return reading.clip.get();
   } catch (const std::exception& error) {
+    if (std::exchange(reading.reported, true)) return nullptr;
     if (!problems.empty()) problems += "; ";
     problems += std::string(name) + ": " + error.what();
+    return nullptr;
   }
-  return clip;
 }
 
 }  // namespace duskmarch

@@ -2,9 +2,11 @@
 #pragma once
 
 #include <functional>
+#include <future>
 #include <map>
 #include <memory>
 #include <string>
+#include <thread>
 
 #include "platform/desktop.h"
 #include "platform/sound/mixer.h"
@@ -27,12 +29,19 @@ class MixedCues final : public CueDevice {
 
  private:
   using SharedClip = std::shared_ptr<const Clip>;
+  struct Reading {
+    std::shared_future<SharedClip> clip;
+    bool reported = false;  // that it failed
+  };
+  // Has a thread of its own read all cues, so that no key waits for a file.
+  void readahead(const FileOf& fileof);
   // Null for a bad file; why it is bad is added to `problems` when it is first asked for.
   SharedClip clipof(std::string_view name, const FileOf& fileof, std::string& problems);
 
   std::shared_ptr<Mixer> mixer_;
-  std::map<std::string, SharedClip, std::less<>> clips_;  // by name; null: the file is bad
+  std::map<std::string, Reading, std::less<>> clips_;  // by name
   std::string ambience_;
+  std::jthread reader_;
 };
 
 }  // namespace duskmarch
