@@ -82,7 +82,7 @@ TEST(Comfort, BadValuesKeepTheirDefaults) {
     const ProgramFolder folder;
     folder.write("comfort.ini", text);
     Player player({.folder = folder.path});
-    EXPECT_EQ(player.events().back(), "voice\t" + std::string(welcome)) << text;
+    EXPECT_EQ(player.events().at(1), "voice\t" + std::string(welcome)) << text;
     EXPECT_EQ(player.game().fulldescriptions, descriptions) << text;
     EXPECT_EQ(player.game().cuevolume, cues) << text;
     EXPECT_EQ(player.game().ambiencevolume, ambience) << text;

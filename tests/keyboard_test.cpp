@@ -22,9 +22,10 @@ void startmission(Player& player) {
 TEST(StartUp, FillsTheBuffersAndWelcomes) {
   Player player;
   EXPECT_EQ(player.events(),
-            (Lines{"rate\t2", "ambience\tmenus-and-hideout",
+            (Lines{"rate\t2",
                    "voice\tWelcome to Duskmarch, version 0.1 testing 3, by Quorvane.  "
-                   "Main menu."}));
+                   "Main menu.",
+                   "ambience\tmenus-and-hideout"}));
   for (const std::string& file : player.game().bufferfile) {
     EXPECT_EQ(file, "\\sounds\\menu\\arrows.wav");
   }
