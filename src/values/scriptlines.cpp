@@ -86,10 +86,13 @@ void appendescaped(std::string& out, std::string_view text) {
   std::size_t start = 0;
   for (std::size_t at = nextspecial(text, 0); at < text.size(); at = nextspecial(text, start)) {
     out.append(text, start, at - start);
-    for (; at < text.size() && letterfor(text[at]) != 0; ++at) {  // line breaks come in pairs
-      const std::array<char, 2> letter = {'\\', letterfor(text[at])};
-      out.append(letter.data(), letter.size());
+    std::array<char, 8> run;  // line breaks come in pairs, and often in two
+    std::size_t size = 0;
+    for (; size < run.size() && at < text.size() && letterfor(text[at]) != 0; ++at) {
+      run[size++] = '\\';
+      run[size++] = letterfor(text[at]);
     }
+    out.append(run.data(), size);
     start = at;
   }
   out.append(text, start);
