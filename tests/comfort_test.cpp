@@ -14,7 +14,7 @@ Spoken atstart(const std::filesystem::path& folder, Player::Events* events = nul
   Player player({.folder = folder});
   const Player::Events all = player.events();
   if (events != nullptr) *events = all;
-  return {all.back()};
+  return {all.at(all.size() - 2)};  // the last is the rain of the menus
 }
 
 TEST(Comfort, DescriptionsAreLeftOutUntilTheyAreWantedAgain) {
