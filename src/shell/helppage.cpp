@@ -21,12 +21,9 @@ namespace {
 // By `menuname`: where one is, and what to do there.
 constexpr std::array<std::string_view, 6> openings = {
     "Help for the map.  Letters go from west to east, numbers from north to south.  Each turn "
-    "every "
-    "hero may move once and act once.  Explore with the arrows, walk with Enter, fight by the "
-    "orders "
-    "behind Space, ask D for danger, and end the turn with Shift+E.  The summary that follows "
-    "closes "
-    "with Enter.",
+    "every hero may move once and act once.  Explore with the arrows, walk with Enter, fight by "
+    "the orders behind Space, ask D for danger, and end the turn with Shift+E.  The summary that "
+    "follows closes with Enter.",
     "Help for the main menu.  Start new game leads to your hideout.",
     "Help for creating a vigilante.  Enter changes what you hear; the last entry finishes.",
     "Help for orders.  These are what the selected hero can do now.  An order acts at once; the "
@@ -34,7 +31,7 @@ constexpr std::array<std::string_view, 6> openings = {
     "fighting skill then hurts the other, and tires.  Friends on the tile raise a skill, and being "
     "dazed lowers it.",
     "Help for upgrades.  Each entry tells what it costs.",
-    "Help for the hideout.  The first three entries are your vigilantes: Enter recruits one, or "
+    "Help for the hideout.  The first three entries are your vigilantes.  Enter recruits one, or "
     "leads to the upgrades of one that you have.  The fourth begins the mission.",
 };
 
