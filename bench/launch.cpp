@@ -71,7 +71,8 @@ int emptywindow(int argc, char** argv) {
 int game(int argc, char** argv) {
   servescreenreaders();
   const QApplication application(argc, argv);
-  FrontEnd frontend(QCoreApplication::applicationDirPath().toStdString());
+  const GameFolders folders(QCoreApplication::applicationDirPath().toStdString());
+  FrontEnd frontend(folders);
   Desktop real = frontend.desktop();
   TimedSystem system(real.system);
   Desktop timed{system,          real.window,    real.summarylabel,

@@ -15,11 +15,11 @@ bool hasroom(const std::filesystem::path& log, std::size_t more) {
 
 }  // namespace
 
-void logline(const std::filesystem::path& programfolder, std::string_view line) {
+void logline(const std::filesystem::path& folder, std::string_view line) {
   try {
-    const std::filesystem::path log = programfolder / logfile;
+    const std::filesystem::path log = folder / logfile;
     const std::string text = std::string(line) + "\r\n";
-    if (!hasroom(log, text.size())) renamefile(log, programfolder / olderlogfile);
+    if (!hasroom(log, text.size())) renamefile(log, folder / olderlogfile);
     FileWriter(log, FileWriter::Start::atend).write(text);
   } catch (const FileError&) {
     return;
@@ -27,8 +27,7 @@ void logline(const std::filesystem::path& programfolder, std::string_view line) 
 }
 
 void logerror(const Game& game, std::string_view procedure, std::string_view description) {
-  logline(game.programfolder,
-          "error in " + std::string(procedure) + ": " + std::string(description));
+  logline(game.filesfolder, "error in " + std::string(procedure) + ": " + std::string(description));
 }
 
 }  // namespace duskmarch

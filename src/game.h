@@ -170,7 +170,8 @@ struct Game {  // NOLINT(clang-analyzer-optin.performance.Padding)
 
   Desktop& desktop;
   std::filesystem::path programfolder;
-  std::mt19937 random;  // drawn from by draw() in world/chance.h alone
+  std::filesystem::path filesfolder;  // where its own files are written; see ownfiles.h
+  std::mt19937 random;                // drawn from by draw() in world/chance.h alone
 
   // The shell.
   std::string version;

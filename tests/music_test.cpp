@@ -49,7 +49,7 @@ struct MusicSystem : System {
 class MusicRules : public testing::Test {
  protected:
   MusicRules() {
-    game.programfolder = folder.path;
+    game.programfolder = game.filesfolder = folder.path;
     for (const char* name : {"one.mp3", "two.MP3", "bad.mp3", "one.wav"}) folder.write(name, "");
   }
   template <class Action>

@@ -14,7 +14,7 @@ constexpr std::string_view arrows = "\\sounds\\menu\\arrows.wav";
 class Sounds : public testing::Test {
  protected:
   Sounds() {
-    game.programfolder = folder.path;
+    game.programfolder = game.filesfolder = folder.path;
     game.dsound = replay.system.opensound();
     game.maxbuffer = 49;
   }

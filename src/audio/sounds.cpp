@@ -86,7 +86,7 @@ void setsound(Game& game, int buffer, std::string_view name) {
     if (name.empty()) return;
     const std::filesystem::path* file = game.soundfinder.find(game.programfolder, name);
     if (file == nullptr) {
-      logline(game.programfolder,
+      logline(game.filesfolder,
               "File is missing: " + textof(game.programfolder) + std::string(name));
       return;
     }

@@ -10,9 +10,9 @@
 #include <vector>
 
 #include "audio/sounds.h"
+#include "ownfiles.h"
 #include "platform/files.h"
 #include "shell/speech/speech.h"
-#include "values/filelookup.h"
 #include "values/textfile.h"
 
 namespace duskmarch {
@@ -163,8 +163,7 @@ void write(const fs::path& path, std::string_view text) {
 
 // Throws what goes wrong.
 void savecampaign(Game& game, std::string_view name) {
-  const fs::path path =
-      findfile(game.programfolder, name).value_or(game.programfolder / tidyname(name));
+  const fs::path path = ownfiletowrite(game, name);
   setaside(path);
   LineWriter writer;
   campaignlines(writer, game);
@@ -202,7 +201,7 @@ void keepchoices(Game& game) {
 
 void loadgame(Game& game, std::string_view name) {
   try {
-    const std::optional<fs::path> path = findfile(game.programfolder, name);
+    const std::optional<fs::path> path = ownfile(game, name);
     if (!path) {
       game.trace.loaded(name, std::nullopt);
       sayit(game, "File not found.");

@@ -7,7 +7,7 @@
 
 namespace duskmarch {
 
-// Writes the campaign to a file in the program folder. An earlier one survives, with ".bak" added
+// Writes the campaign to a file in the folder of the game's files. An earlier one survives, with ".bak" added
 // if it is whole and ".damaged" if not. The file is on the disk before its sound is heard; a
 // failure is spoken.
 void savegame(Game& game, std::string_view name);

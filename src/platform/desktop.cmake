@@ -20,13 +20,14 @@ target_include_directories(voice PUBLIC ${CMAKE_SOURCE_DIR}/src PRIVATE ${espeak
 target_link_libraries(voice PUBLIC Threads::Threads
   PRIVATE values ${espeak_ng_library} PkgConfig::speechd PkgConfig::samplerate)
 
-file(GLOB qt_sources CONFIGURE_DEPENDS qt/*.cpp)
-list(FILTER qt_sources EXCLUDE REGEX "/main\\.cpp$")
+file(GLOB qt_sources CONFIGURE_DEPENDS qt/*.cpp posix/*.cpp)
+list(FILTER qt_sources EXCLUDE REGEX "/(main|console|files)\\.cpp$")
 add_library(qt_desktop STATIC ${qt_sources})
 target_compile_definitions(qt_desktop PUBLIC QT_NO_KEYWORDS)  # "signals" is a word like any other
 target_link_libraries(qt_desktop PUBLIC frontend sound voice Qt6::Widgets Qt6::DBus)
-qt_add_resources(icon_sources ${CMAKE_SOURCE_DIR}/packaging/duskmarch.qrc)
+qt_add_resources(icon_sources ${CMAKE_SOURCE_DIR}/packaging/duskmarch.qrc
+  OPTIONS --format-version 1)  # without the times of the files
 add_executable(duskmarch qt/main.cpp ${icon_sources})
-target_link_libraries(duskmarch PRIVATE qt_desktop)
+target_link_libraries(duskmarch PRIVATE qt_desktop commandline)
 add_dependencies(duskmarch sounds)
 install(TARGETS duskmarch DESTINATION .)

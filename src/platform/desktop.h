@@ -229,8 +229,12 @@ class MusicGraph {
 class System {
  public:
   virtual ~System() = default;
-  // The folder that holds the program, its sounds and its files.
+  // The folder that holds the program, its sounds and, where it can be written, its files.
   virtual std::filesystem::path programfolder() const = 0;
+  // The folder in which the game's own files are written.
+  virtual std::filesystem::path filesfolder() const { return programfolder(); }
+  // Whether another game that runs writes its files there.
+  virtual bool alreadyrunning() const { return false; }
   // What the random generator is seeded with: seconds since midnight.
   virtual std::uint32_t secondssincemidnight() const = 0;
   // Each throws PlatformError when there is no such engine; createmusic() also when `file` is no

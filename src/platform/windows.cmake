@@ -12,7 +12,7 @@ target_link_libraries(win32_desktop PUBLIC frontend sound win32_text
 
 add_executable(duskmarch WIN32 win32/main.cpp)
 target_link_options(duskmarch PRIVATE -municode)
-target_link_libraries(duskmarch PRIVATE win32_desktop)
+target_link_libraries(duskmarch PRIVATE win32_desktop commandline)
 program_resources(duskmarch "Duskmarch")
 add_dependencies(duskmarch sounds)
 install(TARGETS duskmarch DESTINATION .)

@@ -8,6 +8,7 @@
 #include "audio/sounds.h"
 #include "debuglog.h"
 #include "missions/missions.h"
+#include "ownfiles.h"
 #include "shell/speech/comfort.h"
 #include "shell/speech/guarded.h"
 #include "shell/speech/pages.h"
@@ -24,15 +25,18 @@ namespace duskmarch {
 
 namespace {
 
+namespace fs = std::filesystem;
+
 // The trace itself stays for the player to send. A log written to since then has told of it.
 void reportearliercrash(const Game& game) {
-  const std::filesystem::path trace = game.programfolder / crashfile;
+  const auto trace = ownfile(game, crashfile);
+  if (!trace) return;
   std::error_code missing;
-  const auto crashed = std::filesystem::last_write_time(trace, missing);
+  const auto crashed = fs::last_write_time(*trace, missing);
   if (missing) return;
-  const auto told = std::filesystem::last_write_time(game.programfolder / logfile, missing);
+  const auto told = fs::last_write_time(ownfile(game, logfile).value_or(fs::path()), missing);
   if (!missing && told > crashed) return;
-  logline(game.programfolder, "An earlier run crashed.  Its keys are in " + textof(trace));
+  logline(game.filesfolder, "An earlier run crashed.  Its keys are in " + textof(*trace));
 }
 
 void startspeech(Game& game) {
@@ -47,7 +51,7 @@ bool startsound(Game& game) {
   try {
     game.dsound = game.desktop.system.opensound();
   } catch (const PlatformError& error) {
-    logline(game.programfolder, "The sound device cannot be started: " + std::string(error.what()));
+    logline(game.filesfolder, "The sound device cannot be started: " + std::string(error.what()));
     messagebox(game, "",
                "Unable to start DirectSound. Check to see that your sound card is properly "
                "installed.  Try running ostrav.exe from your Klavern folder.  For some people, "
@@ -59,6 +63,23 @@ bool startsound(Game& game) {
     setsound(game, buffer, R"(\sounds\menu\arrows.wav)");
   }
   return true;
+}
+
+// Two games would write over each other's files. What the player hears comes by the own voice, if
+// there is a way for it.
+void refusesecondgame(Game& game) {
+  setupsapi(game);
+  readprogress(game);
+  game.speechmode = speechmode::sapi;
+  giverate(game);
+  try {
+    game.dsound = game.desktop.system.opensound();
+  } catch (const PlatformError&) {
+    // The box says it all.
+  }
+  messagebox(game, "", "Duskmarch is already running.");
+  game.ended = true;
+  game.desktop.system.end();
 }
 
 void setvolumes(Game& game) {
@@ -80,10 +101,12 @@ void startstate(Game& game) {
 
 void startup(Game& game) {
   game.programfolder = game.desktop.system.programfolder();
+  game.filesfolder = game.desktop.system.filesfolder();
   game.version = "0.1 testing 3";
   const std::uint32_t clock = game.desktop.system.secondssincemidnight();
   seed(game, clock);
   game.trace.begin(game.version, clock);
+  if (game.desktop.system.alreadyrunning()) return refusesecondgame(game);
   reportearliercrash(game);
   game.reviewpos = 0;
   game.saidlines.clear();

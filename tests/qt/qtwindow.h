@@ -93,7 +93,8 @@ class QtWindowTest : public testing::Test {
   QtPage helplabel{window, "Help"};
   QtDialogs dialogs{window};
   QTemporaryDir folder;
-  QtSystem system{window, folder.path().toStdString()};
+  GameFolders folders{folder.path().toStdString()};
+  QtSystem system{window, folders};
   Desktop desktop{system, window, summarylabel, storylabel, helplabel, dialogs};
   Game game{desktop};
 };

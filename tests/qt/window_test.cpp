@@ -50,7 +50,8 @@ TEST_F(QtWindowTest, TheVoiceFallsSilentForAnotherEngine) {
 
 TEST(FrontEndTest, PlaysFromTheWelcomeToTheExit) {
   const QTemporaryDir folder;  // with settings of its own
-  FrontEnd frontend(folder.path().toStdString());
+  const GameFolders folders(folder.path().toStdString());
+  FrontEnd frontend(folders);
   Game game(frontend.desktop());
   QTimer player;
   QObject::connect(&player, &QTimer::timeout, [&] {
@@ -69,7 +70,8 @@ TEST(FrontEndTest, PlaysFromTheWelcomeToTheExit) {
 TEST(FrontEndTest, WithoutASoundDeviceItEndsAndTheLogTellsWhy) {
   const QTemporaryDir folder;
   qputenv("SDL_AUDIODRIVER", "nosuch");
-  FrontEnd frontend(folder.path().toStdString());
+  const GameFolders folders(folder.path().toStdString());
+  FrontEnd frontend(folders);
   Game game(frontend.desktop());
   QTimer player;
   QObject::connect(&player, &QTimer::timeout, [&] {

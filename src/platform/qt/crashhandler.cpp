@@ -51,9 +51,9 @@ void writetrace(int signal) {
 
 }  // namespace
 
-CrashHandler::CrashHandler(const CrashTrace& trace, const std::filesystem::path& programfolder) {
+CrashHandler::CrashHandler(const CrashTrace& trace, const std::filesystem::path& filesfolder) {
   keptkeys = &trace;
-  folder = open(programfolder.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC);
+  folder = open(filesfolder.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC);
   stack_t stack{};
   stack.ss_sp = ownstack.data();
   stack.ss_size = ownstack.size();

@@ -1,10 +1,9 @@
 // All of the window that players use, put together.
 #pragma once
 
-#include <filesystem>
-
 #include "game.h"
 #include "platform/desktop.h"
+#include "platform/gamefolders.h"
 #include "platform/qt/dialogs.h"
 #include "platform/qt/page.h"
 #include "platform/qt/system.h"
@@ -14,8 +13,8 @@ namespace duskmarch {
 
 class FrontEnd {
  public:
-  // The program's files are in `folder`.
-  explicit FrontEnd(std::filesystem::path folder);
+  // `folders` must outlive it.
+  explicit FrontEnd(const GameFolders& folders);
 
   Desktop& desktop() { return desktop_; }
   // From the game's start-up to its end; false when it could not start.

@@ -1,35 +1,63 @@
 // The game in its window.
 #include <csignal>
 #include <filesystem>
+#include <optional>
 #include <system_error>
 
 #include "game.h"
+#include "platform/commandline.h"
+#include "platform/console.h"
+#include "platform/gamefolders.h"
 #include "platform/qt/application.h"
 #include "platform/qt/crashhandler.h"
+#include "platform/qt/fonts.h"
 #include "platform/qt/frontend.h"
 #include "platform/qt/screenreader.h"
 
 namespace {
 
+// A bundle has its programs in a folder of their own, one below their files.
+std::filesystem::path filesabove(std::filesystem::path folder) {
+  std::error_code ignored;
+  if (folder.filename() != "bin" || std::filesystem::exists(folder / "sounds", ignored))
+    return folder;
+  return folder.parent_path();
+}
+
 // From the system itself: Qt's strings hold no names that are not UTF-8.
 std::filesystem::path programfolder() {
   std::error_code error;
   const auto program = std::filesystem::read_symlink("/proc/self/exe", error);
-  if (!error) return program.parent_path();
+  if (!error) return filesabove(program.parent_path());
   return QCoreApplication::applicationDirPath().toStdString();
+}
+
+// The toolkit's arguments have one dash. It takes them off once there is a display, which nobody
+// needs who asks for the version.
+bool startsfortoolkit(int count, char** words) {
+  return count > 1 && words[1][0] == '-' && words[1][1] != '-';
+}
+
+std::optional<int> answerarguments(int count, char** words) {
+  return duskmarch::answerarguments(duskmarch::commandline(count, words));
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
+  if (!startsfortoolkit(argc, argv)) {
+    if (const auto status = answerarguments(argc, argv)) return *status;
+  }
   std::signal(SIGPIPE, SIG_IGN);  // a speech service that dies must not take the game with it
   duskmarch::servescreenreaders();
   duskmarch::Application application(argc, argv);
+  if (const auto status = answerarguments(argc, argv)) return *status;
   QApplication::setApplicationName(QStringLiteral("Duskmarch"));  // shown for an empty title
   application.awaitaccessibility();
-  const std::filesystem::path folder = programfolder();
-  duskmarch::FrontEnd frontend(folder);
+  const duskmarch::GameFolders folders(programfolder());
+  duskmarch::addfonts(folders.program() / "fonts");
+  duskmarch::FrontEnd frontend(folders);
   duskmarch::Game game(frontend.desktop());
-  const duskmarch::CrashHandler crashhandler(game.trace, folder);
+  const duskmarch::CrashHandler crashhandler(game.trace, folders.files());
   return frontend.run(game) ? 0 : 1;
 }

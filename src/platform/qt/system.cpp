@@ -1,6 +1,7 @@
 #include "platform/qt/system.h"
 
 #include <QTime>
+#include <system_error>
 #include <utility>
 
 #include "debuglog.h"
@@ -17,10 +18,19 @@ namespace {
 // What goes wrong with speech after the call has returned is logged like what goes wrong in it.
 constexpr auto speecherror = "error in sayit: ";
 
+// A bundle brings the languages of its voice.
+std::filesystem::path voicedata(const std::filesystem::path& program) {
+  const std::filesystem::path brought = program / "lib";
+  std::error_code ignored;
+  return std::filesystem::is_directory(brought / "espeak-ng-data", ignored)
+             ? brought
+             : std::filesystem::path();
+}
+
 }  // namespace
 
-QtSystem::QtSystem(QtWindow& window, std::filesystem::path folder)
-    : window_(window), folder_(std::move(folder)), output_(log()) {
+QtSystem::QtSystem(QtWindow& window, const GameFolders& folders)
+    : window_(window), folders_(folders), output_(log()) {
   output_.mixer()->addsource(voicestream_);
 }
 
@@ -29,7 +39,7 @@ std::uint32_t QtSystem::secondssincemidnight() const {
 }
 
 std::unique_ptr<Voice> QtSystem::createvoice() {
-  voice_ = createespeakvoice(voicestream_, log(speecherror));
+  voice_ = createespeakvoice(voicestream_, log(speecherror), voicedata(folders_.program()));
   return std::make_unique<SharedVoice>(voice_);
 }
 
@@ -49,7 +59,7 @@ std::unique_ptr<MusicGraph> QtSystem::createmusic(const std::filesystem::path& f
 
 std::function<void(std::string_view)> QtSystem::log(std::string_view prefix) {
   return [this, prefix = std::string(prefix)](std::string_view line) {
-    const auto write = [folder = folder_, whole = prefix + std::string(line)] {
+    const auto write = [folder = folders_.files(), whole = prefix + std::string(line)] {
       logline(folder, whole);
     };
     QMetaObject::invokeMethod(&window_, write, Qt::QueuedConnection);

@@ -1,4 +1,4 @@
-// The program's folder, its clock, and the engines that it can start.
+// The game's folders, its clock, and the engines that it can start.
 #pragma once
 
 #include <filesystem>
@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "platform/desktop.h"
+#include "platform/gamefolders.h"
 #include "platform/qt/window.h"
 #include "platform/sound/soundoutput.h"
 #include "platform/voice/speechstream.h"
@@ -15,10 +16,12 @@ namespace duskmarch {
 
 class QtSystem : public System {
  public:
-  // The program's files are in `folder`.
-  QtSystem(QtWindow& window, std::filesystem::path folder);
+  // `folders` must outlive it.
+  QtSystem(QtWindow& window, const GameFolders& folders);
 
-  std::filesystem::path programfolder() const override { return folder_; }
+  std::filesystem::path programfolder() const override { return folders_.program(); }
+  std::filesystem::path filesfolder() const override { return folders_.files(); }
+  bool alreadyrunning() const override { return folders_.inuse(); }
   std::uint32_t secondssincemidnight() const override;
   std::unique_ptr<Voice> createvoice() override;
   std::unique_ptr<JawsApi> createjaws() override;
@@ -32,7 +35,7 @@ class QtSystem : public System {
   std::function<void(std::string_view)> log(std::string_view prefix = {});
 
   QtWindow& window_;
-  std::filesystem::path folder_;
+  const GameFolders& folders_;
   SoundOutput output_;
   std::shared_ptr<Voice> voice_;  // the game's, which stands in for the speech service
   std::shared_ptr<SpeechStream> voicestream_ = std::make_shared<SpeechStream>();

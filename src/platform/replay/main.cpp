@@ -5,7 +5,9 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
+#include "platform/commandline.h"
 #include "platform/console.h"
 #include "platform/replay/replaysession.h"
 #include "platform/replay/seednumber.h"
@@ -15,10 +17,20 @@ namespace {
 
 using namespace duskmarch;
 
-constexpr std::string_view usage =
-    "usage: duskmarch-replay --folder DIR [--seed N] [--no-voice] [--jaws] [--no-reader]"
-    " < script > transcript";
-constexpr int failure = 2;
+constexpr std::string_view name = "duskmarch-replay";
+constexpr std::string_view help =
+    R"(usage: duskmarch-replay --folder DIR [ARGUMENT...] < script > transcript
+
+Plays Duskmarch by a script of keys and writes what a player would hear and see.
+
+  --folder DIR  the folder with the game's sounds and files
+  --seed N      the seed of chance, a whole number; 1 if not given
+  --no-voice    the game's own voice cannot be made
+  --jaws        the JAWS interface can be made
+  --no-reader   no screen reader is attached
+  --version     tells the version and ends
+  --help        tells this and ends)";
+constexpr int failure = badarguments;
 // As much as fits, with what one more key writes, into 60 KiB.
 constexpr std::size_t flushsize = 48 << 10;
 
@@ -30,7 +42,7 @@ ReplayOptions parsearguments(std::span<const std::string> arguments) {
   ReplayOptions options;
   std::size_t next = 1;
   const auto value = [&](std::string_view option) -> std::string_view {
-    if (next >= arguments.size()) throw BadArguments(std::string(option) + " needs a value");
+    if (next >= arguments.size()) throw BadArguments(std::string(option) + " needs a value.");
     return arguments[next++];
   };
   while (next < arguments.size()) {
@@ -39,7 +51,7 @@ ReplayOptions parsearguments(std::span<const std::string> arguments) {
       options.folder = pathof(value(option));
     } else if (option == "--seed") {
       const auto seed = parseseed(value(option));
-      if (!seed) throw BadArguments("--seed needs a whole number");
+      if (!seed) throw BadArguments("--seed needs a whole number.");
       options.seed = *seed;
     } else if (option == "--no-voice") {
       options.voice = false;
@@ -48,12 +60,12 @@ ReplayOptions parsearguments(std::span<const std::string> arguments) {
     } else if (option == "--no-reader") {
       options.reader = false;
     } else {
-      throw BadArguments("no such argument: " + std::string(option));
+      throw BadArguments(unknownargument(option));
     }
   }
-  if (options.folder.empty()) throw BadArguments("--folder is required");
+  if (options.folder.empty()) throw BadArguments("It needs --folder, and --help tells more.");
   if (std::error_code error; !std::filesystem::is_directory(options.folder, error)) {
-    throw BadArguments("no such folder: " + textof(options.folder));
+    throw BadArguments("There is no folder \"" + textof(options.folder) + "\".");
   }
   return options;
 }
@@ -90,10 +102,17 @@ int play(const ReplayOptions& options) {
 int main(int count, char** arguments) {
   usebinarystreams();
   std::ios::sync_with_stdio(false);
+  const std::vector<std::string> words = commandline(count, arguments);
+  for (const std::string& word : words) {
+    if (const auto information = informationfor(word, name, help)) {
+      tellcaller(*information, Stream::output);
+      return 0;
+    }
+  }
   try {
-    return play(parsearguments(commandline(count, arguments)));
+    return play(parsearguments(words));
   } catch (const BadArguments& error) {
-    std::cerr << "duskmarch-replay: " << error.what() << '\n' << usage << '\n';
+    tellcaller("duskmarch-replay: " + std::string(error.what()), Stream::errors);
     return failure;
   }
 }

@@ -18,6 +18,8 @@ struct Game;
 
 struct ReplayOptions {
   std::filesystem::path folder = {};  // the program folder
+  std::filesystem::path files = {};   // the folder of the game's files; empty: the program folder
+  bool alreadyrunning = false;        // another game has its files there
   std::uint32_t seed = 1;
   bool voice = true;   // the voice can be created
   bool jaws = false;   // the JAWS interface can be created
@@ -28,6 +30,10 @@ class ReplaySystem final : public System {
  public:
   ReplaySystem(ReplayOptions options, Transcript& transcript);
   std::filesystem::path programfolder() const override { return options_.folder; }
+  std::filesystem::path filesfolder() const override {
+    return options_.files.empty() ? options_.folder : options_.files;
+  }
+  bool alreadyrunning() const override { return options_.alreadyrunning; }
   std::uint32_t secondssincemidnight() const override { return options_.seed; }
   std::unique_ptr<Voice> createvoice() override;
   std::unique_ptr<JawsApi> createjaws() override;

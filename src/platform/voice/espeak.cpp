@@ -114,14 +114,14 @@ std::vector<NamedVoice> allvoices() {
 
 }  // namespace
 
-Espeak& Espeak::instance() {
+Espeak& Espeak::instance(const std::filesystem::path& data) {
   // Never taken down: a thread may still be speaking when the program ends.
-  static Espeak only;
+  static Espeak only(data);
   return only;
 }
 
-Espeak::Espeak() {
-  espeak_ng_InitializePath(nullptr);
+Espeak::Espeak(const std::filesystem::path& data) {
+  espeak_ng_InitializePath(data.empty() ? nullptr : data.c_str());
   check(espeak_ng_Initialize(nullptr));
   check(espeak_ng_InitializeOutput(ENOUTPUT_MODE_SYNCHRONOUS, stretch, nullptr));
   usevoice(voicefile);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <filesystem>
 #include <mutex>
 #include <string>
 #include <vector>
@@ -18,8 +19,8 @@ struct NamedVoice {
 class Espeak {
  public:
   // Sets the synthesizer up at the first call. Throws PlatformError when there is none; the next
-  // call tries again.
-  static Espeak& instance();
+  // call tries again. `data` is the folder with the folder of its languages; empty: the system's.
+  static Espeak& instance(const std::filesystem::path& data = {});
 
   int samplerate() const { return samplerate_; }
   // The default first, then those of the system's language, then English in every variant. Read
@@ -33,7 +34,7 @@ class Espeak {
            const SampleSink<std::int16_t>& sink);
 
  private:
-  Espeak();
+  explicit Espeak(const std::filesystem::path& data);
 
   void usevoice(const std::string& file);
 

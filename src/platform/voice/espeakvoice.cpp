@@ -43,10 +43,11 @@ int wordsaminute(int rate) {
                                speechrate::slowest);
 }
 
-EspeakVoice::EspeakVoice(std::shared_ptr<SpeechStream> stream, SpeechLog log)
+EspeakVoice::EspeakVoice(std::shared_ptr<SpeechStream> stream, SpeechLog log,
+                         const std::filesystem::path& data)
     : stream_(std::move(stream)),
       log_(std::move(log)),
-      espeak_(Espeak::instance()),
+      espeak_(Espeak::instance(data)),
       resampler_(espeak_.samplerate(), gain),
       rate_(startrate),
       worker_([this] { work(); }) {}
@@ -158,9 +159,10 @@ bool EspeakVoice::pass(SpeechStream::Turn turn, std::span<const float> samples) 
   }
 }
 
-std::unique_ptr<Voice> createespeakvoice(std::shared_ptr<SpeechStream> stream, SpeechLog log) {
+std::unique_ptr<Voice> createespeakvoice(std::shared_ptr<SpeechStream> stream, SpeechLog log,
+                                         const std::filesystem::path& data) {
   try {
-    return std::make_unique<EspeakVoice>(std::move(stream), std::move(log));
+    return std::make_unique<EspeakVoice>(std::move(stream), std::move(log), data);
   } catch (const std::system_error& error) {
     throw PlatformError(std::string("the voice cannot be started: ") + error.what());
   }

@@ -3,6 +3,7 @@
 
 #include <condition_variable>
 #include <deque>
+#include <filesystem>
 #include <memory>
 #include <mutex>
 #include <string>
@@ -20,7 +21,8 @@ namespace duskmarch {
 
 class EspeakVoice final : public Voice {
  public:
-  EspeakVoice(std::shared_ptr<SpeechStream> stream, SpeechLog log);
+  EspeakVoice(std::shared_ptr<SpeechStream> stream, SpeechLog log,
+              const std::filesystem::path& data = {});
   ~EspeakVoice() override;
 
   void setrate(int rate) override;

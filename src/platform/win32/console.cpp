@@ -11,6 +11,36 @@
 
 namespace duskmarch {
 
+namespace {
+
+bool isopen(HANDLE file) {
+  return file != nullptr && file != INVALID_HANDLE_VALUE;
+}
+
+// To a file, a pipe or a console that the program was given; false where it was given none.
+bool writebytes(DWORD stream, std::string_view line) {
+  const HANDLE file = GetStdHandle(stream);
+  DWORD written = 0;
+  return isopen(file) && GetFileType(file) != FILE_TYPE_UNKNOWN &&
+         WriteFile(file, line.data(), static_cast<DWORD>(line.size()), &written, nullptr) != 0;
+}
+
+// To the console of the program that started this one; false where that has none.
+bool writetoparent(std::string_view line) {
+  if (AttachConsole(ATTACH_PARENT_PROCESS) == 0) return false;
+  const HANDLE console = CreateFileW(L"CONOUT$", GENERIC_READ | GENERIC_WRITE, FILE_SHARE_WRITE,
+                                     nullptr, OPEN_EXISTING, 0, nullptr);
+  if (!isopen(console)) return false;
+  const std::wstring words = L"\r\n" + utf16(line);  // the prompt is there again already
+  DWORD written = 0;
+  const bool done = WriteConsoleW(console, words.data(), static_cast<DWORD>(words.size()), &written,
+                                  nullptr) != 0;
+  CloseHandle(console);
+  return done;
+}
+
+}  // namespace
+
 // main() gets them in the code page, which has no letters for most names.
 std::vector<std::string> commandline(int /*count*/, char** /*arguments*/) {
   int count = 0;
@@ -23,6 +53,15 @@ std::vector<std::string> commandline(int /*count*/, char** /*arguments*/) {
 
 void usebinarystreams() {
   for (std::FILE* stream : {stdin, stdout, stderr}) _setmode(_fileno(stream), _O_BINARY);
+}
+
+void tellcaller(std::string_view text, Stream stream) {
+  const bool isoutput = stream == Stream::output;
+  const std::string line = std::string(text) + "\n";
+  if (writebytes(isoutput ? STD_OUTPUT_HANDLE : STD_ERROR_HANDLE, line) || writetoparent(line)) {
+    return;
+  }
+  MessageBoxW(nullptr, utf16(text).c_str(), L"Duskmarch", isoutput ? MB_OK : MB_ICONERROR);
 }
 
 }  // namespace duskmarch

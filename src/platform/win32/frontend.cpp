@@ -1,17 +1,15 @@
 #include "platform/win32/frontend.h"
 
-#include <utility>
-
 #include "shell/startup.h"
 
 namespace duskmarch {
 
-FrontEnd::FrontEnd(std::filesystem::path folder)
+FrontEnd::FrontEnd(const GameFolders& folders)
     : summarylabel_(window_, L"Turn summary"),
       storylabel_(window_, L"Story"),
       helplabel_(window_, L"Help"),
       dialogs_(window_),
-      system_(window_, std::move(folder)),
+      system_(window_, folders),
       desktop_{system_, window_, summarylabel_, storylabel_, helplabel_, dialogs_} {}
 
 int FrontEnd::run(Game& game, int how) {

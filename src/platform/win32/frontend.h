@@ -1,10 +1,9 @@
 // All of the window that players use, put together.
 #pragma once
 
-#include <filesystem>
-
 #include "game.h"
 #include "platform/desktop.h"
+#include "platform/gamefolders.h"
 #include "platform/win32/dialogs.h"
 #include "platform/win32/page.h"
 #include "platform/win32/system.h"
@@ -14,8 +13,8 @@ namespace duskmarch {
 
 class FrontEnd {
  public:
-  // The program's files are in `folder`.
-  explicit FrontEnd(std::filesystem::path folder);
+  // `folders` must outlive it.
+  explicit FrontEnd(const GameFolders& folders);
 
   Desktop& desktop() { return desktop_; }
   // From the game's start-up to its end; `how` the window is shown first (SW_SHOWNORMAL ...).

@@ -5,6 +5,9 @@
 #include <windows.h>
 
 #include "game.h"
+#include "platform/commandline.h"
+#include "platform/console.h"
+#include "platform/gamefolders.h"
 #include "platform/win32/com.h"
 #include "platform/win32/crashhandler.h"
 #include "platform/win32/frontend.h"
@@ -27,10 +30,13 @@ std::filesystem::path programfolder() {
 }  // namespace
 
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int how) {
+  if (const auto status = duskmarch::answerarguments(duskmarch::commandline(0, nullptr))) {
+    return *status;
+  }
   const duskmarch::ComThread com(COINIT_APARTMENTTHREADED);
-  const std::filesystem::path folder = programfolder();
-  duskmarch::FrontEnd frontend(folder);
+  const duskmarch::GameFolders folders(programfolder());
+  duskmarch::FrontEnd frontend(folders);
   duskmarch::Game game(frontend.desktop());
-  const duskmarch::CrashHandler crashhandler(game.trace, folder);
+  const duskmarch::CrashHandler crashhandler(game.trace, folders.files());
   return frontend.run(game, how);
 }

@@ -23,8 +23,8 @@ constexpr auto speecherror = "error in sayit: ";
 
 }  // namespace
 
-Win32System::Win32System(Win32Window& window, std::filesystem::path folder)
-    : window_(window), folder_(std::move(folder)), output_(log()) {}
+Win32System::Win32System(Win32Window& window, const GameFolders& folders)
+    : window_(window), folders_(folders), output_(log()) {}
 
 std::uint32_t Win32System::secondssincemidnight() const {
   SYSTEMTIME now;
@@ -57,8 +57,9 @@ bool Win32System::readerattached() const {
 
 std::function<void(std::string_view)> Win32System::log(std::string_view prefix) {
   return [this, prefix = std::string(prefix)](std::string_view line) {
-    window_.post(
-        [folder = folder_, whole = prefix + std::string(line)] { logline(folder, whole); });
+    window_.post([folder = folders_.files(), whole = prefix + std::string(line)] {
+      logline(folder, whole);
+    });
   };
 }
 

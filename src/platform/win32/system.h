@@ -1,4 +1,4 @@
-// The program's folder, its clock, and the engines that it can start.
+// The game's folders, its clock, and the engines that it can start.
 #pragma once
 
 #include <filesystem>
@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "platform/desktop.h"
+#include "platform/gamefolders.h"
 #include "platform/sound/soundoutput.h"
 #include "platform/win32/window.h"
 
@@ -14,10 +15,12 @@ namespace duskmarch {
 
 class Win32System : public System {
  public:
-  // The program's files are in `folder`.
-  Win32System(Win32Window& window, std::filesystem::path folder);
+  // `folders` must outlive it.
+  Win32System(Win32Window& window, const GameFolders& folders);
 
-  std::filesystem::path programfolder() const override { return folder_; }
+  std::filesystem::path programfolder() const override { return folders_.program(); }
+  std::filesystem::path filesfolder() const override { return folders_.files(); }
+  bool alreadyrunning() const override { return folders_.inuse(); }
   std::uint32_t secondssincemidnight() const override;
   std::unique_ptr<Voice> createvoice() override;
   std::unique_ptr<JawsApi> createjaws() override;
@@ -33,7 +36,7 @@ class Win32System : public System {
   std::function<void(std::string_view)> log(std::string_view prefix = {});
 
   Win32Window& window_;
-  std::filesystem::path folder_;
+  const GameFolders& folders_;
   SoundOutput output_;
   std::shared_ptr<Voice> voice_;  // the game's, which stands in for JAWS
 };

@@ -2,9 +2,9 @@
 
 #include <utility>
 
+#include "ownfiles.h"
 #include "shell/speech/settingsfile.h"
 #include "shell/speech/speech.h"
-#include "values/filelookup.h"
 #include "values/speechrate.h"
 #include "values/textfile.h"
 
@@ -29,7 +29,7 @@ void saveprogress(Game& game) {
 }
 
 void readprogress(Game& game) {
-  game.firststart = !findfile(game.programfolder, progressfile);
+  game.firststart = !ownfile(game, progressfile);
   const auto lines = readsettings(game, progressfile, 3, "readprogress");
   if (!lines) return;
   game.speechmode = setting((*lines)[0], 0, speechmode::count - 1).value_or(game.speechmode);

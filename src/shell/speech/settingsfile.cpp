@@ -7,9 +7,9 @@
 #include <utility>
 
 #include "debuglog.h"
+#include "ownfiles.h"
 #include "platform/files.h"
 #include "shell/speech/speech.h"
-#include "values/filelookup.h"
 #include "values/textfile.h"
 
 namespace duskmarch {
@@ -41,8 +41,7 @@ enum class Outcome { written, busy, failed };
 
 Outcome attempt(const Game& game, const BusySettings& settings) {
   try {
-    const std::filesystem::path file = game.programfolder / settings.name;
-    replace(findfile(game.programfolder, settings.name).value_or(file), settings.text);
+    replace(ownfiletowrite(game, settings.name), settings.text);
     return Outcome::written;
   } catch (const FileBusy&) {
     return Outcome::busy;
@@ -72,7 +71,7 @@ std::optional<int> setting(std::string_view line, int least, int most) {
 
 std::optional<std::vector<std::string>> readsettings(const Game& game, std::string_view name,
                                                      std::size_t count, std::string_view what) {
-  const auto file = findfile(game.programfolder, name);
+  const auto file = ownfile(game, name);
   if (!file) return std::nullopt;
   try {
     std::vector<std::string> lines = splitlines(readtextfile(*file));

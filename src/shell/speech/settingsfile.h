@@ -14,7 +14,7 @@ namespace duskmarch {
 
 // The number in a line, rounded down, if it is one from `least` to `most`.
 std::optional<int> setting(std::string_view line, int least, int most);
-// The lines of such a file in the program folder, at least `count`, empty where it has none. One
+// The lines of such a file of the game, at least `count`, empty where it has none. One
 // that cannot be read is logged as an error of `what`. Nothing where there is no such file, or none
 // that can be read.
 std::optional<std::vector<std::string>> readsettings(const Game& game, std::string_view name,
