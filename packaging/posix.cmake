@@ -5,6 +5,7 @@ install(FILES duskmarch.desktop DESTINATION share/applications)
 install(FILES duskmarch.svg DESTINATION share/icons/hicolor/scalable/apps)
 install(FILES duskmarch.metainfo.xml DESTINATION share/metainfo)
 
-set(CPACK_GENERATOR TGZ)
-set(CPACK_PACKAGE_FILE_NAME
-  ${PROJECT_NAME}-${PROJECT_VERSION}-${CMAKE_SYSTEM_NAME}-${CMAKE_SYSTEM_PROCESSOR})
+# The bundle, which brings what it needs, and the package for Debian and its like.
+set(CPACK_GENERATOR External)
+set(CPACK_EXTERNAL_ENABLE_STAGING ON)
+set(CPACK_EXTERNAL_PACKAGE_SCRIPT ${CMAKE_CURRENT_LIST_DIR}/linux/package.cmake)

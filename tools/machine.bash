@@ -29,7 +29,7 @@ tenths() { # VERB PATTERN
   done
 }
 
-# The packages wanted for PURPOSE... (build, run, test), each with what it is for.
+# The packages wanted for PURPOSE... (build, run, test ...), each with what it is for.
 wanted() {
   awk -v purposes=" $* " '
     /^[a-z]/ && index(purposes, " " $1 " ") {
