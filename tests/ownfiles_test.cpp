@@ -1,4 +1,6 @@
-// The game's files where the program's folder cannot be written, and a second game with the same ones.
+// The game's files where the program's folder cannot be written, and a second game with the same
+// ones.
+#include "campaign/savegame.h"
 #include "harness.h"
 
 namespace duskmarch {
