@@ -7,9 +7,9 @@
 
 namespace duskmarch {
 
-// Writes the campaign to a file in the folder of the game's files. An earlier one survives, with ".bak" added
-// if it is whole and ".damaged" if not. The file is on the disk before its sound is heard; a
-// failure is spoken.
+// Writes the campaign to a file in the folder of the game's files. An earlier one survives, with
+// ".bak" added if it is whole and ".damaged" if not. The file is on the disk before its sound is
+// heard; a failure is spoken.
 void savegame(Game& game, std::string_view name);
 inline constexpr std::string_view autosavefile = "autosave.sav";
 // Keeps the campaign in `autosavefile` with the same care, but without sound or words; that it
