@@ -1,5 +1,6 @@
 // The game in its window.
 #include <csignal>
+#include <cstdlib>
 #include <filesystem>
 #include <optional>
 #include <system_error>
@@ -42,12 +43,8 @@ std::optional<int> answerarguments(int count, char** words) {
   return duskmarch::answerarguments(duskmarch::commandline(count, words));
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
-  if (!startsfortoolkit(argc, argv)) {
-    if (const auto status = answerarguments(argc, argv)) return *status;
-  }
+// The program from its start with a display to its end.
+int play(int argc, char** argv) {
   std::signal(SIGPIPE, SIG_IGN);  // a speech service that dies must not take the game with it
   duskmarch::servescreenreaders();
   duskmarch::Application application(argc, argv);
@@ -60,4 +57,15 @@ int main(int argc, char** argv) {
   duskmarch::Game game(frontend.desktop());
   const duskmarch::CrashHandler crashhandler(game.trace, folders.files());
   return frontend.run(game) ? 0 : 1;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (!startsfortoolkit(argc, argv)) {
+    if (const auto status = answerarguments(argc, argv)) return *status;
+  }
+  // A thread may still ask for a screen reader's registry, or wait for a frozen sound server: it
+  // must not see the libraries' objects taken down.
+  std::_Exit(play(argc, argv));
 }
