@@ -90,13 +90,15 @@ bool helplesslyheld(const Game& game, const Mob& mob) {
   return helpless;
 }
 
+bool takesorders(const Mob& mob) {
+  return conscious(mob) && !hastag(mob.status, tag::dazed);
+}
+
 constexpr std::size_t usuallyenough = 16;
 
 class Listing {
  public:
   Listing(const Game& game, const Mob& mob) : game_(game), mob_(mob) {
-    standing_.reserve(static_cast<std::size_t>(game.mobcount));
-    for (const Mob& other : standing(game)) standing_.push_back(&other);
     offers_.reserve(usuallyenough);
   }
 
@@ -135,14 +137,13 @@ class Listing {
       if (row.when == nullptr || row.when(mob_)) offers_.push_back({&row});
       return;
     }
-    for (const Mob* const other : standing_) {
-      if (row.upon(game_, mob_, *other)) offers_.push_back({&row, slotof(game_, *other)});
+    for (const Mob& other : standing(game_)) {
+      if (row.upon(game_, mob_, other)) offers_.push_back({&row, slotof(game_, other)});
     }
   }
 
   const Game& game_;
   const Mob& mob_;
-  std::vector<const Mob*> standing_;
   std::vector<Offer> offers_;
 };
 
@@ -195,13 +196,21 @@ bool lackshealth(const Mob& mob) {
 
 std::vector<Offer> offers(const Game& game, int slot) {
   const Mob& mob = game.mob(slot);
-  if (!conscious(mob) || hastag(mob.status, tag::dazed)) return {};
+  if (!takesorders(mob)) return {};
   Listing listing(game, mob);
   listing.offerbasics();
   if (mob.hasacted == 0) {
     listing.offerabilities();
     listing.offerfurniture(ordersof({}));
   }
+  return std::move(listing).done();
+}
+
+std::vector<Offer> offersofabilities(const Game& game, int slot) {
+  const Mob& mob = game.mob(slot);
+  if (!takesorders(mob) || mob.hasacted != 0) return {};
+  Listing listing(game, mob);
+  listing.offerabilities();
   return std::move(listing).done();
 }
 

@@ -18,6 +18,8 @@ struct Offer {
 // What a mob may do now, hero or enemy, in the order of the option list. Two chairs on its tile
 // offer the same throw twice.
 std::vector<Offer> offers(const Game& game, int slot);
+// Those of them that take an ability: all that enemies plan by.
+std::vector<Offer> offersofabilities(const Game& game, int slot);
 
 // The offer as the option list shows it: the order's name and whom it is used upon.
 std::string offertext(const Game& game, const Offer& offer);

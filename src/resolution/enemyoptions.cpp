@@ -169,7 +169,8 @@ constexpr std::array enemyorders{
     EnemyOrder{plannedoption::throwperson, listpersonthrows, throwhero},
 };
 static_assert(std::ranges::all_of(enemyorders, [](const EnemyOrder& row) {
-  return std::ranges::count(orders, row.order, &Order::name) == 1;
+  return std::ranges::count(orders, row.order, &Order::name) == 1 &&
+         !findorder(row.order)->ability.empty();
 }));
 
 // Nothing happens, and nothing is spent, when whom or what it takes is gone.
@@ -191,7 +192,7 @@ void perform(Game& game, int t, const PlanEntry& entry) {
 
 void listentries(Game& game, int t) {
   const Mob& enemy = game.mob(t);
-  for (const Offer& offer : offers(game, t)) {
+  for (const Offer& offer : offersofabilities(game, t)) {
     const auto* const row = std::ranges::find(enemyorders, offer.order->name, &EnemyOrder::order);
     if (row != enemyorders.end()) row->listentries(game, enemy, offer);
   }
