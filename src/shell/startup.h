@@ -6,7 +6,8 @@
 namespace duskmarch {
 
 // From launch to the spoken main menu; called once, before the window is first shown. Without a
-// sound device, or beside another game with the same files, it shows a message and ends the program.
+// sound device, or beside another game with the same files, it shows a message and ends the
+// program.
 void startup(Game& game);
 // The surface must be redrawn.
 void repaint(Game& game);
