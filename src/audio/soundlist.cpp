@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <cctype>
+#include <cstdlib>
+#include <vector>
 
 #include "audio/cues.h"
 #include "audio/cuetable.h"
@@ -22,34 +24,42 @@ std::string lineof(const Row& row) {
   return headingof(row.name) + " " + std::string(row.meaning) + ".";
 }
 
-// The names in the order of the lines.
-std::string_view nameat(std::size_t line) {
-  const std::size_t cues = cuetable().size();
-  return line < cues ? cuetable()[line].name : ambiencetable()[line - cues].name;
+std::vector<std::string> soundlines() {
+  std::vector<std::string> lines;
+  for (const CueRow& row : cuetable()) lines.push_back(lineof(row));
+  for (const AmbienceRow& row : ambiencetable()) lines.push_back(lineof(row));
+  return lines;
 }
 
 }  // namespace
 
 std::string soundlist() {
   std::string text;
-  for (const CueRow& row : cuetable()) text += lineof(row) + "\r\n";
-  for (const AmbienceRow& row : ambiencetable()) text += lineof(row) + "\r\n";
+  for (const std::string& line : soundlines()) text += line + "\r\n";
   text.resize(text.size() - 2);
   return text;
 }
 
+// In a narrow window a line is shown in parts, and of those only the first has its name.
 void tosoundline(Game& game, std::string_view text) {
   if (game.soundlisted < 0) return;
-  for (std::size_t line = 0; line < cuetable().size() + ambiencetable().size(); ++line) {
-    if (text.starts_with(headingof(nameat(line)))) game.soundlisted = static_cast<int>(line);
+  const int before = game.soundlisted;
+  int nearest = -1;
+  int number = 0;
+  for (const std::string& line : soundlines()) {
+    const bool nearer = nearest < 0 || std::abs(number - before) < std::abs(nearest - before);
+    if (nearer && line.find(text) != std::string::npos) nearest = number;
+    ++number;
   }
+  if (nearest >= 0) game.soundlisted = nearest;
 }
 
 void playsoundline(Game& game) {
   if (game.soundlisted < 0) return;
   const auto line = static_cast<std::size_t>(game.soundlisted);
-  if (line >= cuetable().size()) return setambience(game, nameat(line));
-  playcue(game, cuetable()[line].id);
+  const std::size_t cues = cuetable().size();
+  if (line < cues) return playcue(game, cuetable()[line].id);
+  setambience(game, ambiencetable()[line - cues].name);
 }
 
 }  // namespace duskmarch

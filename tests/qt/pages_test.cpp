@@ -3,6 +3,7 @@
 
 #include <QContextMenuEvent>
 
+#include "platform/replay/replayengines.h"
 #include "qtwindow.h"
 
 namespace duskmarch {
@@ -53,6 +54,34 @@ TEST_F(QtWindowTest, PageTellsOfACaretThatCannotMove) {
   press(pageview(), Qt::Key_Right);
   press(pageview(), Qt::Key_Right);
   EXPECT_EQ(said, (Texts{"w", "o", " "}));
+}
+
+TEST_F(QtWindowTest, PageOfSoundsPlaysTheLineThatTheCaretIsOn) {
+  Transcript transcript;
+  game.dsound = std::make_unique<ReplaySound>(transcript);
+  press(&window, Qt::Key_F7);
+  EXPECT_EQ(pageview()->accessibleName(), "Help");
+  const auto played = [&](int key) {
+    press(pageview(), key);
+    transcript.clear();
+    press(pageview(), Qt::Key_F7);
+    return transcript.text().substr(0, transcript.text().find("\t0"));
+  };
+  EXPECT_EQ(played(Qt::Key_Down), "cue\ttarget-chosen");
+  EXPECT_EQ(played(Qt::Key_Down), "cue\tdive");
+  EXPECT_EQ(played(Qt::Key_Left), "cue\ttarget-chosen") << "its end";
+  EXPECT_EQ(played(Qt::Key_Right), "cue\tdive");
+  EXPECT_EQ(played(Qt::Key_PageUp), "cue\tstep");
+  played(Qt::Key_Down);
+  EXPECT_EQ(played(Qt::Key_Down), "cue\tdive");
+  window.resize(400, 500);  // each line takes two
+  window.processevents();
+  for (const char* name : {"target-chosen", "target-chosen", "step", "step"}) {
+    EXPECT_EQ(played(Qt::Key_Up), std::string("cue\t") + name) << said.back();
+  }
+  press(pageview(), Qt::Key_Escape);
+  EXPECT_TRUE(window.hasFocus());
+  game.dsound.reset();
 }
 
 TEST_F(QtWindowTest, BoxesTellAgainWhatTabComesBackTo) {
