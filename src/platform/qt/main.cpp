@@ -1,8 +1,11 @@
 // The game in its window.
+#include <algorithm>
+#include <array>
 #include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <optional>
+#include <string_view>
 #include <system_error>
 
 #include "game.h"
@@ -33,10 +36,26 @@ std::filesystem::path programfolder() {
   return QCoreApplication::applicationDirPath().toStdString();
 }
 
-// The toolkit's arguments have one dash. It takes them off once there is a display, which nobody
-// needs who asks for the version.
+// The toolkit's arguments. It takes them off once there is a display, which nobody needs who asks
+// for the version or errs.
+constexpr std::array<std::string_view, 14> toolkitarguments = {
+    "-display", "-geometry",        "-platform",    "-platformpluginpath", "-platformtheme",
+    "-plugin",  "-qwindowgeometry", "-qwindowicon", "-qwindowtitle",       "-reverse",
+    "-session", "-style",           "-stylesheet",  "-widgetcount"};
+
 bool startsfortoolkit(int count, char** words) {
-  return count > 1 && words[1][0] == '-' && words[1][1] != '-';
+  if (count < 2) return false;
+  const std::string_view word = words[1];
+  return std::ranges::find(toolkitarguments, word.substr(0, word.find('='))) !=
+         toolkitarguments.end();
+}
+
+// The toolkit gives up only where it finds no display; it would end the program by a crash.
+void tellofstart(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text) {
+  using duskmarch::tellcaller, duskmarch::Stream;
+  if (type != QtFatalMsg) return tellcaller(text.toStdString(), Stream::errors);
+  tellcaller("Duskmarch needs a graphical desktop to open its window on.", Stream::errors);
+  std::_Exit(1);
 }
 
 std::optional<int> answerarguments(int count, char** words) {
@@ -47,7 +66,9 @@ std::optional<int> answerarguments(int count, char** words) {
 int play(int argc, char** argv) {
   std::signal(SIGPIPE, SIG_IGN);  // a speech service that dies must not take the game with it
   duskmarch::servescreenreaders();
+  qInstallMessageHandler(tellofstart);
   duskmarch::Application application(argc, argv);
+  qInstallMessageHandler(nullptr);
   if (const auto status = answerarguments(argc, argv)) return *status;
   QApplication::setApplicationName(QStringLiteral("Duskmarch"));  // shown for an empty title
   application.awaitaccessibility();
