@@ -33,10 +33,11 @@ fs::path home() {
   return player == nullptr ? fs::path() : fs::path(player->pw_dir);
 }
 
+// Nothing for a player who has no home.
 fs::path datafolder() {
   fs::path data = folderof("XDG_DATA_HOME");
   if (data.empty()) data = home() / ".local/share";
-  return data / "duskmarch";
+  return data.is_absolute() ? data / "duskmarch" : fs::path();
 }
 
 // With all folders that lead to it; what others may see in those that are new is left to the
