@@ -56,13 +56,14 @@ TEST(OwnFiles, ASecondGameWithThemIsRefused) {
   const std::string box = "message\t\tDuskmarch is already running.";
   for (const bool reader : {true, false}) {
     const ProgramFolder folder;
-    folder.write(settings, silentreader);
+    if (!reader) folder.write(settings, silentreader);
     folder.write("crash.txt", "key 40\n");
     Player player({.folder = folder.path, .alreadyrunning = true, .reader = reader});
     const Player::Events events = player.events();
     EXPECT_EQ(std::ranges::count(events, box), 1);
     EXPECT_EQ(std::ranges::count(events, "voice\tDuskmarch is already running."), reader ? 0 : 1);
     EXPECT_TRUE(player.game().ended);
+    EXPECT_FALSE(player.game().firststart) << "a reader that is found gets advice for this one";
     EXPECT_EQ(folder.read("debuglog.txt"), "");  // which is the other's
   }
 }

@@ -71,6 +71,7 @@ void refusesecondgame(Game& game) {
   setupsapi(game);
   readprogress(game);
   game.speechmode = speechmode::sapi;
+  game.firststart = false;  // Tab would choose nothing here
   giverate(game);
   try {
     game.dsound = game.desktop.system.opensound();
