@@ -21,7 +21,8 @@ TEST(ClipCache, DecodesAgainWhatHasChanged) {
   fs::last_write_time(file, time + std::chrono::seconds(1));
   const auto later = clips.clip(file);
   EXPECT_NE(later, arrows);
-  fs::copy_file(folder.path / "sounds/menu/enter.wav", file, fs::copy_options::overwrite_existing);
+  fs::remove(file);
+  fs::copy_file(folder.path / "sounds/menu/enter.wav", file);
   fs::last_write_time(file, time + std::chrono::seconds(1));
   EXPECT_NE(clips.clip(file)->samples.size(), arrows->samples.size());
   fs::remove(file);

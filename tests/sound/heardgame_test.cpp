@@ -175,7 +175,7 @@ TEST_F(HeardGame, AnyKeysInAnyScreenKeepTheSamplesInRange) {
 
 TEST_F(HeardGame, AFileThatIsMissingOrBadIsALineInTheLogAndSilence) {
   const auto cues = player.folder().path / "sounds/cues";
-  std::filesystem::remove(cues);  // the link to them
+  std::filesystem::remove_all(cues);  // the links to them
   std::filesystem::create_directory(cues);
   player.folder().write("sounds/cues/gun-fired.wav", "RIFF and no more");
   const auto before = player.folder().read("debuglog.txt");

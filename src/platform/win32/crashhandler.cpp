@@ -23,7 +23,7 @@ namespace {
 
 constexpr auto dumpfile = "crash.dmp";
 // How long the dump may take: what reads the program may be what is broken.
-constexpr DWORD dumplimit = 10000;
+constexpr DWORD dumplimit = 30000;
 // What is kept of the stack for one that has used it up.
 constexpr ULONG stackleft = 1U << 16;
 // As the system's own library ends a program that gives up.
