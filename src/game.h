@@ -141,12 +141,21 @@ struct Music {
 
 struct Game;
 
-// Settings whose file another program had open when they were to be written; see
-// shell/speech/settingsfile.h.
-struct BusySettings {
+// How files of one kind are written, and what follows.
+struct FileKind {
+  void (*write)(const std::filesystem::path& file, std::string_view text);  // throws FileError
+  void (*written)(Game& game);
+  void (*failedlate)(Game& game);  // after waiting for another program in vain
+};
+// A file of the game's own that is to be written.
+struct OwnFile {
   std::string name;
   std::string text;
-  void (*failed)(Game& game);
+  const FileKind* kind;
+};
+// One that another program had open then; see shell/speech/busyfiles.h.
+struct BusyFile {
+  OwnFile file;
   std::chrono::steady_clock::time_point until;
 };
 
@@ -185,6 +194,7 @@ struct Game {  // NOLINT(clang-analyzer-optin.performance.Padding)
   bool ended = false;             // the program is ending; no key acts any more
   bool writefailuretold = false;  // the player knows that settings are not saved
   bool firststart = false;        // no settings were found, and no key has been pressed since
+  std::vector<BusyFile> busyfiles;
 
   // What the player likes, kept in comfort.ini.
   bool fulldescriptions = true;  // orders and upgrades are said with their descriptions
@@ -192,7 +202,6 @@ struct Game {  // NOLINT(clang-analyzer-optin.performance.Padding)
   int ambiencevolume = 4;
   std::string voicename;            // of the own voice; empty for the default
   bool comfortfailuretold = false;  // the player knows that these are not saved
-  std::vector<BusySettings> busysettings;
 
   // Speech.
   int speechmode = speechmode::sapi;

@@ -12,6 +12,7 @@
 #include "audio/sounds.h"
 #include "ownfiles.h"
 #include "platform/files.h"
+#include "shell/speech/busyfiles.h"
 #include "shell/speech/speech.h"
 #include "values/textfile.h"
 
@@ -125,6 +126,8 @@ bool iswhole(const fs::path& file) {
     Campaign campaign;
     campaignlines(lines, campaign);
     return text.ends_with('\n');
+  } catch (const FileBusy&) {
+    throw;  // who knows
   } catch (const std::exception&) {
     return false;
   }
@@ -155,44 +158,55 @@ void setaside(const fs::path& file) {
 }
 
 void write(const fs::path& path, std::string_view text) {
+  setaside(path);
   FileWriter file(path, FileWriter::Start::anew);
   file.write(text);
   file.synchronize();
   file.close();
 }
 
-// Throws what goes wrong.
-void savecampaign(Game& game, std::string_view name) {
-  const fs::path path = ownfiletowrite(game, name);
-  setaside(path);
+constexpr std::string_view saveerror = "Error saving game.";
+
+constexpr FileKind savedgame = {
+    .write = write,
+    .written = [](Game& game) { playeffect(game, R"(\sounds\game\saved.wav)"); },
+    .failedlate = [](Game& game) { addsentence(game, saveerror); }};
+
+void tellunkept(Game& game) {
+  game.waybackkept = false;
+  if (std::exchange(game.autosavefailuretold, true)) return;
+  addsentence(game, "Your progress cannot be kept.");
+}
+
+constexpr FileKind autosave = {.write = write, .written = [](Game&) {}, .failedlate = tellunkept};
+
+bool savecampaign(Game& game, std::string_view name, const FileKind& kind) {
   LineWriter writer;
   campaignlines(writer, game);
-  write(path, writer.lines);
+  if (keepfile(game, {std::string(name), writer.lines, &kind}) == Keeping::failed) return false;
   game.trace.saved(name, writer.lines);
+  return true;
+}
+
+// What was saved, though the file may wait for another program yet.
+std::optional<std::string> savedtext(const Game& game, std::string_view name) {
+  if (const std::string* const waiting = waitingtext(game, name)) return *waiting;
+  const std::optional<fs::path> path = ownfile(game, name);
+  if (!path) return std::nullopt;
+  return readtextfile(*path);
 }
 
 }  // namespace
 
 void savegame(Game& game, std::string_view name) {
-  try {
-    savecampaign(game, name);
-    playeffect(game, R"(\sounds\game\saved.wav)");
-  } catch (const std::exception&) {
-    sayit(game, "Error saving game.");
-  }
+  if (!savecampaign(game, name, savedgame)) sayit(game, saveerror);
 }
 
 bool keepprogress(Game& game) {
   if (game.testheroes) return false;
-  try {
-    savecampaign(game, autosavefile);
-    return true;
-  } catch (const std::exception&) {
-    if (!std::exchange(game.autosavefailuretold, true)) {
-      addsentence(game, "Your progress cannot be kept.");
-    }
-    return false;
-  }
+  const bool kept = savecampaign(game, autosavefile, autosave);
+  if (!kept) tellunkept(game);
+  return kept;
 }
 
 void keepchoices(Game& game) {
@@ -201,15 +215,10 @@ void keepchoices(Game& game) {
 
 void loadgame(Game& game, std::string_view name) {
   try {
-    const std::optional<fs::path> path = ownfile(game, name);
-    if (!path) {
-      game.trace.loaded(name, std::nullopt);
-      sayit(game, "File not found.");
-      return;
-    }
-    const std::string text = readtextfile(*path);
+    const std::optional<std::string> text = savedtext(game, name);
     game.trace.loaded(name, text);
-    LineReader lines(splitlines(text));
+    if (!text) return sayit(game, "File not found.");
+    LineReader lines(splitlines(*text));
     campaignlines(lines, game);
     game.missionunderway = false;
     game.missionunwon = false;

@@ -19,7 +19,7 @@ class FileError : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-// Another program has the file open; a moment later it may not any more.
+// Another program has the file open, and the system minds; a moment later it may not any more.
 class FileBusy : public FileError {
  public:
   using FileError::FileError;
@@ -54,12 +54,8 @@ class FileWriter {
   std::size_t size_ = 0;
 };
 
-// Where another program has the file open and the system minds: to wait half a second for it, or to
-// throw FileBusy.
-enum class Patience { some, none };
 // Replaces what is called `to`, if that is no folder, in one step. A link is renamed itself.
-void renamefile(const std::filesystem::path& from, const std::filesystem::path& to,
-                Patience patience = Patience::some);
+void renamefile(const std::filesystem::path& from, const std::filesystem::path& to);
 
 // What changes with a file's content.
 struct FileStamp {

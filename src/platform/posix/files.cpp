@@ -121,8 +121,7 @@ void FileWriter::close() {
   if (::close(descriptor(std::exchange(handle_, closed))) != 0) fail("it cannot be closed");
 }
 
-void renamefile(const std::filesystem::path& from, const std::filesystem::path& to,
-                Patience /*patience*/) {
+void renamefile(const std::filesystem::path& from, const std::filesystem::path& to) {
   if (::rename(from.c_str(), to.c_str()) != 0) fail("it cannot be renamed");
 }
 

@@ -1,12 +1,15 @@
 #include "platform/replay/replaysession.h"
 
 #include <charconv>
+#include <chrono>
 #include <optional>
+#include <thread>
 
 #include "campaign/savegame.h"
 #include "platform/replay/seednumber.h"
 #include "platform/replay/statelines.h"
 #include "shell/keyboard.h"
+#include "shell/speech/busyfiles.h"
 #include "shell/speech/selfreading.h"
 #include "shell/startup.h"
 #include "values/scriptlines.h"
@@ -48,6 +51,7 @@ void ReplaySession::perform(std::string_view line) {
       parse(line.substr(0, space), line.substr(std::min(space + 1, line.size())));
   replay.transcript.line("> " + std::string(line));
   command();
+  while (trybusyfilesagain(game)) std::this_thread::sleep_for(std::chrono::milliseconds(1));
 }
 
 ReplaySession::Command ReplaySession::parse(std::string_view name, std::string_view rest) {

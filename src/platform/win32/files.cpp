@@ -13,10 +13,6 @@ namespace duskmarch {
 
 namespace {
 
-// A program that looks at every new file lets go of it soon.
-constexpr int mosttries = 25;
-constexpr DWORD betweentries = 20;  // milliseconds
-
 std::string describe(DWORD error) {
   std::array<wchar_t, 512> words{};
   DWORD size = FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr,
@@ -25,7 +21,12 @@ std::string describe(DWORD error) {
   return utf8({words.data(), size});
 }
 
+bool isbusy(DWORD error) {
+  return error == ERROR_SHARING_VIOLATION || error == ERROR_LOCK_VIOLATION;
+}
+
 [[noreturn]] void fail(const char* what, DWORD error = GetLastError()) {
+  if (isbusy(error)) throw FileBusy(std::string(what) + ": " + describe(error));
   throw FileError(std::string(what) + ": " + describe(error));
 }
 
@@ -41,7 +42,7 @@ std::size_t sizeofopen(HANDLE file) {
 
 // Whether a rename that failed may succeed a moment later: another program has the file open.
 bool mayyetsucceed(DWORD error, const std::filesystem::path& to) {
-  if (error == ERROR_SHARING_VIOLATION || error == ERROR_LOCK_VIOLATION) return true;
+  if (isbusy(error)) return true;
   const DWORD attributes = GetFileAttributesW(to.c_str());
   return error == ERROR_ACCESS_DENIED && attributes != INVALID_FILE_ATTRIBUTES &&
          (attributes & (FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_READONLY)) == 0;
@@ -99,19 +100,12 @@ void FileWriter::close() {
   if (CloseHandle(systemhandle(std::exchange(handle_, closed))) == 0) fail("it cannot be closed");
 }
 
-void renamefile(const std::filesystem::path& from, const std::filesystem::path& to,
-                Patience patience) {
-  for (int tries = 1;; ++tries) {
-    if (MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) !=
-        0) {
-      return;
-    }
-    const DWORD error = GetLastError();
-    const bool busy = mayyetsucceed(error, to);
-    if (busy && patience == Patience::none) throw FileBusy("it is open in another program");
-    if (!busy || tries == mosttries) fail("it cannot be renamed", error);
-    Sleep(betweentries);
-  }
+void renamefile(const std::filesystem::path& from, const std::filesystem::path& to) {
+  constexpr DWORD how = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
+  if (MoveFileExW(from.c_str(), to.c_str(), how) != 0) return;
+  const DWORD error = GetLastError();
+  if (mayyetsucceed(error, to)) throw FileBusy(describe(error));
+  fail("it cannot be renamed", error);
 }
 
 std::optional<FileStamp> stampof(const std::filesystem::path& file) {

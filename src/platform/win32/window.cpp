@@ -12,7 +12,7 @@
 #include "platform/win32/screens.h"
 #include "platform/win32/text.h"
 #include "shell/keyboard.h"
-#include "shell/speech/settingsfile.h"
+#include "shell/speech/busyfiles.h"
 #include "shell/startup.h"
 
 namespace duskmarch {
@@ -22,7 +22,7 @@ namespace {
 constexpr auto classname = L"Duskmarch";
 constexpr UINT callposted = WM_APP;
 constexpr UINT_PTR readertimer = 1;
-constexpr UINT_PTR settingstimer = 2;
+constexpr UINT_PTR filestimer = 2;
 constexpr UINT betweentries = 20;    // milliseconds
 constexpr UINT betweenlooks = 1000;  // milliseconds
 constexpr DWORD style = WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN;
@@ -112,7 +112,7 @@ void Win32Window::run(int how) {
   SetForegroundWindow(handle_);
   SetTimer(handle_, readertimer, betweenlooks, nullptr);
   while (handleevents()) WaitMessage();
-  while (game_ != nullptr && trysettingsagain(*game_)) Sleep(betweentries);
+  while (game_ != nullptr && trybusyfilesagain(*game_)) Sleep(betweentries);
 }
 
 void Win32Window::end() {
@@ -140,8 +140,8 @@ void Win32Window::lookforreader() {
   if (readerseen_ && !before && game_ != nullptr) readerfound(*game_);
 }
 
-void Win32Window::keepsettings() {
-  if (game_ == nullptr || !trysettingsagain(*game_)) KillTimer(handle_, settingstimer);
+void Win32Window::keepbusyfiles() {
+  if (game_ == nullptr || !trybusyfilesagain(*game_)) KillTimer(handle_, filestimer);
 }
 
 void Win32Window::cover(HWND page) {
@@ -164,7 +164,7 @@ bool Win32Window::takekey(WPARAM key, LPARAM details) {
   const auto time = static_cast<DWORD>(GetMessageTime());
   if (const auto press = virtualkey(key, details, time); press && game_ != nullptr) {
     keypress(*game_, *press);
-    if (!game_->busysettings.empty()) SetTimer(handle_, settingstimer, betweentries, nullptr);
+    if (!game_->busyfiles.empty()) SetTimer(handle_, filestimer, betweentries, nullptr);
   }
   return true;
 }
@@ -277,7 +277,7 @@ LRESULT Win32Window::handle(UINT message, WPARAM first, LPARAM second) {
     case WM_CLOSE: end(); return 0;
     case WM_TIMER:
       if (first == readertimer) lookforreader();
-      if (first == settingstimer) keepsettings();
+      if (first == filestimer) keepbusyfiles();
       return 0;
     case callposted: makepostedcalls(); return 0;
     default: break;

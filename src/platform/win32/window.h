@@ -62,7 +62,7 @@ class Win32Window : public Window {
   bool drops(const MSG& message);
   void makepostedcalls();
   void lookforreader();
-  void keepsettings();
+  void keepbusyfiles();
   void paint();
   void resized();
   void rescaled(const RECT& area);

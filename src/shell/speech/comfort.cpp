@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "audio/cues.h"
+#include "shell/speech/busyfiles.h"
 #include "shell/speech/guarded.h"
 #include "shell/speech/settingsfile.h"
 #include "shell/speech/speech.h"
@@ -53,6 +54,9 @@ void tellfailure(Game& game) {
   addsentence(game, "These settings cannot be kept.");
 }
 
+constexpr FileKind comfort = {
+    .write = writesettings, .written = [](Game&) {}, .failedlate = tellfailure};
+
 }  // namespace
 
 void readcomfort(Game& game) {
@@ -69,7 +73,8 @@ void keepcomfort(Game& game) {
   const std::string text = numberline(game.fulldescriptions ? 1 : 0) + "\r\n" +
                            numberline(game.cuevolume) + "\r\n" + numberline(game.ambiencevolume) +
                            "\r\n" + game.voicename + "\r\n";
-  writesettings(game, comfortfile, text, tellfailure);
+  const Keeping keeping = keepfile(game, {std::string(comfortfile), text, &comfort});
+  if (keeping == Keeping::failed) tellfailure(game);
 }
 
 void toggledescriptions(Game& game) {

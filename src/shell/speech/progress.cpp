@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "ownfiles.h"
+#include "shell/speech/busyfiles.h"
 #include "shell/speech/settingsfile.h"
 #include "shell/speech/speech.h"
 #include "values/speechrate.h"
@@ -19,13 +20,16 @@ void tellfailure(Game& game) {
   addsentence(game, "Your speech settings cannot be saved.  The game goes on without saving.");
 }
 
+constexpr FileKind progress = {
+    .write = writesettings, .written = [](Game&) {}, .failedlate = tellfailure};
+
 }  // namespace
 
 void saveprogress(Game& game) {
-  writesettings(game, progressfile,
-                numberline(game.speechmode) + "\r\n" + numberline(game.sapirate) + "\r\n" +
-                    game.progressspare + "\r\n",
-                tellfailure);
+  const std::string text = numberline(game.speechmode) + "\r\n" + numberline(game.sapirate) +
+                           "\r\n" + game.progressspare + "\r\n";
+  const Keeping keeping = keepfile(game, {std::string(progressfile), text, &progress});
+  if (keeping == Keeping::failed) tellfailure(game);
 }
 
 void readprogress(Game& game) {

@@ -19,13 +19,8 @@ std::optional<int> setting(std::string_view line, int least, int most);
 // that can be read.
 std::optional<std::vector<std::string>> readsettings(const Game& game, std::string_view name,
                                                      std::size_t count, std::string_view what);
-// Writes it anew. Where that cannot be done, what was there is there still, and `failed` is called:
-// at once, or, where another program has the file open, when that has been so for half a second.
-void writesettings(Game& game, std::string_view name, std::string_view text,
-                   void (*failed)(Game& game));
-// Tries again what another program has kept from being written; whether anything is left to try. A
-// front end calls it every few hundredths of a second while there are `busysettings`, and at the
-// end of the program until it is done.
-bool trysettingsagain(Game& game);
+// Writes such a file anew, for keepfile(). Where that cannot be done, what was there is there
+// still.
+void writesettings(const std::filesystem::path& file, std::string_view text);
 
 }  // namespace duskmarch
