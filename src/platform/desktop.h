@@ -100,6 +100,8 @@ class Page {
   virtual void show(std::string_view text) = 0;
   virtual void hide() = 0;
   virtual void focus() = 0;
+  // What a screen reader calls the page, where one object serves for several.
+  virtual void setname(std::string_view name) = 0;
 };
 
 // What the arrow keys answer in a box that asks for a direction.

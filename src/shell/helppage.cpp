@@ -67,9 +67,9 @@ std::string helptext(const Game& game, std::span<const PlayerKey> keys) {
   return text.append(ofpages);
 }
 
-void open(Game& game, std::string text) {
+void open(Game& game, std::string_view name, std::string text) {
   game.helplabel = std::move(text);
-  showhelp(game);
+  showhelp(game, name);
   sayit(game, "");
   focushelp(game);
   game.desktop.window.processevents();
@@ -78,11 +78,11 @@ void open(Game& game, std::string text) {
 }  // namespace
 
 void openhelp(Game& game, std::span<const PlayerKey> keys) {
-  open(game, helptext(game, keys));
+  open(game, "Help", helptext(game, keys));
 }
 
 void opensounds(Game& game) {
-  open(game, soundlist());
+  open(game, "Sounds", soundlist());
   game.soundlisted = 0;
 }
 

@@ -60,7 +60,7 @@ TEST_F(QtWindowTest, PageOfSoundsPlaysTheLineThatTheCaretIsOn) {
   Transcript transcript;
   game.dsound = std::make_unique<ReplaySound>(transcript);
   press(&window, Qt::Key_F7);
-  EXPECT_EQ(pageview()->accessibleName(), "Help");
+  EXPECT_EQ(pageview()->accessibleName(), "Sounds");
   const auto played = [&](int key) {
     press(pageview(), key);
     transcript.clear();
@@ -81,6 +81,8 @@ TEST_F(QtWindowTest, PageOfSoundsPlaysTheLineThatTheCaretIsOn) {
   }
   press(pageview(), Qt::Key_Escape);
   EXPECT_TRUE(window.hasFocus());
+  press(&window, Qt::Key_F1);
+  EXPECT_EQ(pageview()->accessibleName(), "Help");
   game.dsound.reset();
 }
 

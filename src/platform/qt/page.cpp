@@ -27,4 +27,9 @@ void QtPage::focus() {
   if (view_ != nullptr) view_->setFocus();
 }
 
+void QtPage::setname(std::string_view name) {
+  name_ = toqt(name);
+  if (view_ != nullptr) view_->setAccessibleName(name_);
+}
+
 }  // namespace duskmarch

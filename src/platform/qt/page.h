@@ -18,6 +18,7 @@ class QtPage : public Page {
   void show(std::string_view text) override;
   void hide() override;
   void focus() override;
+  void setname(std::string_view name) override;
 
  private:
   QtWindow& window_;

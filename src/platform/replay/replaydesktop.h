@@ -85,6 +85,7 @@ class ReplayPage final : public Page {
   ReplayPage(std::string_view name, Transcript& transcript)
       : name_(name), transcript_(transcript) {}
   void show(std::string_view text) override;
+  void setname(std::string_view /*name*/) override {}
   void hide() override { transcript_.event("hide", name_); }
   void focus() override { transcript_.event("focus", name_); }
   // What an arrow key reaches in the text shown; nothing for other keys.

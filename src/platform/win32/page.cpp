@@ -67,6 +67,11 @@ void Win32Page::focus() {
   if (edit_ != nullptr) window_.givefocus(edit_);
 }
 
+void Win32Page::setname(std::string_view name) {
+  name_ = utf16(name);
+  if (edit_ != nullptr) nameforreaders(edit_, name_);
+}
+
 void Win32Page::make() {
   edit_ = CreateWindowExW(0, WC_EDITW, nullptr, style, 0, 0, 0, 0, window_.handle(), nullptr,
                           GetModuleHandleW(nullptr), nullptr);

@@ -20,6 +20,7 @@ class Win32Page : public Page {
   void show(std::string_view text) override;
   void hide() override;
   void focus() override;
+  void setname(std::string_view name) override;
 
  private:
   static LRESULT CALLBACK procedure(HWND edit, UINT message, WPARAM first, LPARAM second,

@@ -69,7 +69,8 @@ void hidestory(Game& game) {
   hide(game, game.desktop.storylabel, Focus::storylabel);
 }
 
-void showhelp(Game& game) {
+void showhelp(Game& game, std::string_view name) {
+  game.desktop.helplabel.setname(name);
   game.desktop.helplabel.show(game.helplabel);
 }
 

@@ -20,7 +20,8 @@ void showstory(Game& game);
 void focusstory(Game& game);
 void hidestory(Game& game);
 
-void showhelp(Game& game);
+// Under the name that a screen reader calls it by.
+void showhelp(Game& game, std::string_view name);
 // Also reads the whole page to a player without a screen reader.
 void focushelp(Game& game);
 void hidehelp(Game& game);
