@@ -72,6 +72,36 @@ TEST(Comfort, VoicesFollowEachOtherAndSayTheirNames) {
   EXPECT_EQ(mute.press(key::f11), Player::Events{"title\tThere is no other voice."});
 }
 
+// Names voices that it does not have.
+class PoorVoice : public Voice {
+ public:
+  explicit PoorVoice(std::string_view refused) : refused_(refused) {}
+  void setrate(int) override {}
+  void speak(std::string_view) override {}
+  void speakafter(std::string_view) override {}
+  void hush() override {}
+  std::vector<std::string> voicenames() override { return {"First", "Second", "Third"}; }
+  bool setvoice(std::string_view name) override {
+    return refused_.find(name) == std::string_view::npos;
+  }
+
+ private:
+  std::string_view refused_;
+};
+
+TEST(Comfort, VoicesThatAreGoneArePassedBy) {
+  Player player;
+  const auto said = [&](std::string_view refused) {
+    player.game().sapivoice = std::make_unique<PoorVoice>(refused);
+    player.press(key::f11);
+    return player.game().saidlines[1];
+  };
+  EXPECT_EQ(said("Second"), "The voice Second is gone.  Third");
+  EXPECT_EQ(said(""), "First");
+  EXPECT_EQ(said("Second Third"),
+            "The voice Second is gone.  The voice Third is gone.  There is no other voice.");
+}
+
 TEST(Comfort, BadValuesKeepTheirDefaults) {
   for (const auto& [text, descriptions, cues, ambience] :
        std::vector<std::tuple<std::string, bool, int, int>>{{"", true, 7, 4},

@@ -99,12 +99,18 @@ void changevoice(Game& game, int step) {
   if (names.size() < 2) return sayit(game, "There is no other voice.");
   const auto known = std::ranges::find(names, game.voicename);
   std::size_t place = known == names.end() ? 0 : static_cast<std::size_t>(known - names.begin());
-  place = neighbour(place, step, names.size());
-  const std::string& name = names[place];
-  if (!setvoice(game, name)) return sayit(game, "The voice " + name + " is gone.");
-  game.voicename = place == 0 ? std::string() : name;
-  keepcomfort(game);
-  sayit(game, name);
+  std::string gone;
+  for (std::size_t tries = 1; tries < names.size(); ++tries) {
+    place = neighbour(place, step, names.size());
+    const std::string& name = names[place];
+    if (setvoice(game, name)) {
+      game.voicename = place == 0 ? std::string() : name;
+      keepcomfort(game);
+      return sayit(game, gone + name);
+    }
+    gone += "The voice " + name + " is gone.  ";
+  }
+  sayit(game, gone + "There is no other voice.");
 }
 
 }  // namespace duskmarch
