@@ -1,6 +1,8 @@
 // What every window does alike with keys, carets and typed texts.
 #include <optional>
 #include <string>
+#include <tuple>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -32,6 +34,29 @@ TEST(HeldKeys, AReleaseAndAPressInOneMomentAreNoPress) {
   EXPECT_TRUE(keys.repeats(65, 5000, true));
   keys.released(36, 0);  // by a program that presses keys without a time
   EXPECT_FALSE(keys.repeats(36, 0, false));
+}
+
+TEST(Boxes, ReadWhatTheCaretComesTo) {
+  const std::string text = "over żółw";
+  for (const auto& [press, before, now, read] :
+       std::vector<std::tuple<KeyPress, std::size_t, std::size_t, std::optional<std::string>>>{
+           {{.keycode = key::left}, 6, 5, "ż"},
+           {{.keycode = key::left, .shift = modifier::ctrl}, 7, 5, "żółw"},
+           {{.keycode = key::right}, 11, 12, text},
+           {{.keycode = key::home}, 0, 0, text},
+           {{.keycode = key::up}, 3, 3, text},
+           {{.keycode = key::shift}, 3, 3, std::nullopt}}) {
+    EXPECT_EQ(readfield(press, text, before, now), read) << press.keycode;
+  }
+}
+
+TEST(Boxes, AreAnsweredByArrowsAlone) {
+  const ArrowAnswers arrows = {.left = "w", .up = "n", .right = "e", .down = "s"};
+  EXPECT_EQ(answerof({.keycode = key::left}, arrows), "w");
+  EXPECT_EQ(answerof({.keycode = key::down, .shift = modifier::shift}, arrows), "s");
+  EXPECT_EQ(answerof({.keycode = key::down, .shift = modifier::ctrl}, arrows), "");
+  EXPECT_EQ(answerof({.keycode = key::up, .shift = modifier::alt}, arrows), "");
+  EXPECT_EQ(answerof({.keycode = key::up}, {}), "");
 }
 
 TEST(Difference, IsWhatWasTypedOrTakenAway) {

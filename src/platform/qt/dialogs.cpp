@@ -8,12 +8,11 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
-#include <algorithm>
-#include <array>
 #include <memory>
 #include <string>
 #include <utility>
 
+#include "platform/frontend/reading.h"
 #include "platform/frontend/typed.h"
 #include "platform/qt/keymap.h"
 #include "platform/qt/text.h"
@@ -22,9 +21,6 @@
 namespace duskmarch {
 
 namespace {
-
-constexpr std::array caretkeys = {Qt::Key_Left, Qt::Key_Right, Qt::Key_Up,
-                                  Qt::Key_Down, Qt::Key_Home,  Qt::Key_End};
 
 // A text, what it is about, and the buttons.
 class Box : public QDialog {
@@ -128,34 +124,22 @@ class Field : public QLineEdit {
 
  protected:
   void keyPressEvent(QKeyEvent* event) override {
-    if (const std::string_view answer = answerof(*event); text().isEmpty() && !answer.empty()) {
+    const KeyPress press = virtualkey(*event).value_or(KeyPress{});
+    const std::string_view answer = answerof(press, arrows_);
+    if (text().isEmpty() && !answer.empty()) {
       setText(toqt(answer));
       return box_.accept();
     }
     const QString unchanged = text();
-    const int place = cursorPosition();
+    const std::size_t place = caret();
     QLineEdit::keyPressEvent(event);
-    if (text() == unchanged) tellcaret(event->key(), cursorPosition() != place);
+    if (text() != unchanged) return;  // it was told
+    if (const auto read = readfield(press, fromqt(text()), place, caret())) box_.tell(*read);
   }
 
  private:
-  // Empty for a key that answers nothing; with Ctrl or Alt an arrow is the system's.
-  std::string_view answerof(const QKeyEvent& event) const {
-    if ((event.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) != 0) return {};
-    switch (event.key()) {
-      case Qt::Key_Left: return arrows_.left;
-      case Qt::Key_Up: return arrows_.up;
-      case Qt::Key_Right: return arrows_.right;
-      case Qt::Key_Down: return arrows_.down;
-      default: return {};
-    }
-  }
-
-  void tellcaret(int key, bool moved) {
-    if (!moved && std::ranges::find(caretkeys, key) == caretkeys.end()) return;
-    const QString came = text().mid(cursorPosition(), 1);
-    box_.tell(moved && !came.isEmpty() ? came : text());
-  }
+  // In bytes of the text before it.
+  std::size_t caret() const { return fromqt(text().left(cursorPosition())).size(); }
 
   Box& box_;
   ArrowAnswers arrows_;

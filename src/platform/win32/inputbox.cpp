@@ -1,16 +1,16 @@
 #include "platform/win32/inputbox.h"
 
 #include <algorithm>
-#include <array>
 #include <utility>
 
 #include <commctrl.h>
 
+#include "platform/frontend/reading.h"
 #include "platform/frontend/typed.h"
 #include "platform/win32/fonts.h"
+#include "platform/win32/keymap.h"
 #include "platform/win32/screens.h"
 #include "platform/win32/text.h"
-#include "values/utf8.h"
 
 namespace duskmarch {
 
@@ -19,14 +19,12 @@ namespace {
 // In the game's pixels.
 constexpr int margin = 12;
 constexpr int usualwidth = 400;
-constexpr int fieldheight = 24;
-constexpr SIZE buttonsize{88, 26};
+constexpr int around = 8;  // of letters in the field and the buttons, above and below together
+constexpr int buttonwidth = 88;
 constexpr int labelid = 100;
 constexpr int fieldid = 101;
 
 constexpr DWORD boxstyle = WS_POPUP | WS_CAPTION | WS_SYSMENU | DS_MODALFRAME | DS_NOIDLEMSG;
-
-constexpr std::array caretkeys = {VK_LEFT, VK_RIGHT, VK_UP, VK_DOWN, VK_HOME, VK_END};
 
 void place(HWND part, LONG left, LONG top, SIZE size) {
   SetWindowPos(part, nullptr, left, top, size.cx, size.cy, SWP_NOZORDER | SWP_NOACTIVATE);
@@ -34,10 +32,9 @@ void place(HWND part, LONG left, LONG top, SIZE size) {
 
 // Of the part of the screen that is free where the window is, what the text of a box may take.
 SIZE mostroom(HWND window) {
-  constexpr LONG more = 100000;
-  const RECT free = onscreen({-more, -more, more, more});
-  const LONG around = devicepixels(window, 200);
-  return {free.right - free.left - around, free.bottom - free.top - around};
+  const RECT free = freearea(window);
+  const LONG rest = devicepixels(window, 200);
+  return {free.right - free.left - rest, free.bottom - free.top - rest};
 }
 
 SIZE measured(HDC context, const std::wstring& text, LONG width) {
@@ -45,13 +42,6 @@ SIZE measured(HDC context, const std::wstring& text, LONG width) {
   DrawTextW(context, text.c_str(), static_cast<int>(text.size()), &area,
             DT_CALCRECT | DT_WORDBREAK | DT_EDITCONTROL | DT_NOPREFIX | DT_EXPANDTABS);
   return {std::max(area.right, width), area.bottom};
-}
-
-// The character to the right of the caret, or the word.
-std::wstring righthand(const std::wstring& text, std::size_t caret, bool word) {
-  const std::size_t space = std::min(text.find(L' ', caret), text.size());
-  if (word) return text.substr(caret, space - caret);
-  return utf16(codepointrange(utf8(text.substr(caret)), 0, 1));
 }
 
 }  // namespace
@@ -89,14 +79,20 @@ INT_PTR CALLBACK InputBox::procedure(HWND box, UINT message, WPARAM first, LPARA
   return self != nullptr ? self->handle(message, first, second) : FALSE;
 }
 
-INT_PTR InputBox::handle(UINT message, WPARAM first, LPARAM /*second*/) {
+INT_PTR InputBox::handle(UINT message, WPARAM first, LPARAM second) {
   switch (message) {
     case WM_INITDIALOG:
       makeparts();
       layout();
+      centre();
       SetFocus(field_);
       return FALSE;  // the focus is where it belongs
-    case WM_DPICHANGED: layout(); return TRUE;
+    case WM_DPICHANGED: {
+      const auto& proposed = *reinterpret_cast<const RECT*>(second);
+      layout();
+      moveto(proposed.left, proposed.top);
+      return TRUE;
+    }
     case WM_COMMAND:
       if (LOWORD(first) == fieldid && HIWORD(first) == EN_CHANGE) typed();
       if (LOWORD(first) == IDOK) answer_ = utf8(text());
@@ -147,22 +143,45 @@ void InputBox::layout() {
   font_ = std::move(font);
   const auto scaled = [this](int pixels) { return static_cast<LONG>(devicepixels(box_, pixels)); };
   const LONG gap = scaled(margin);
-  const SIZE button = {scaled(buttonsize.cx), scaled(buttonsize.cy)};
+  const LONG line = letters() + scaled(around);
+  const SIZE button = {scaled(buttonwidth), line};
   const SIZE prompt = roomforprompt();
   const LONG fieldtop = gap + prompt.cy + gap / 2;
-  const LONG buttontop = fieldtop + scaled(fieldheight) + gap;
+  const LONG buttontop = fieldtop + line + gap;
   const LONG width = prompt.cx + 2 * gap;
   place(label_, gap, gap, prompt);
-  place(field_, gap, fieldtop, {prompt.cx, scaled(fieldheight)});
+  place(field_, gap, fieldtop, {prompt.cx, line});
   place(cancel_, width - gap - button.cx, buttontop, button);
   place(ok_, width - 2 * gap - 2 * button.cx, buttontop, button);
 
   RECT area = {0, 0, width, buttontop + button.cy + gap};
   AdjustWindowRectExForDpi(&area, boxstyle, FALSE, WS_EX_DLGMODALFRAME, GetDpiForWindow(box_));
+  SetWindowPos(box_, nullptr, 0, 0, area.right - area.left, area.bottom - area.top,
+               SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+// In device pixels.
+LONG InputBox::letters() const {
+  const WindowDc screen(box_);
+  const Selected font(screen.context(), font_.get());
+  TEXTMETRICW metrics{};
+  GetTextMetricsW(screen.context(), &metrics);
+  return metrics.tmHeight;
+}
+
+void InputBox::centre() {
+  RECT area{};
   RECT owner{};
+  GetWindowRect(box_, &area);
   GetWindowRect(GetWindow(box_, GW_OWNER), &owner);
-  OffsetRect(&area, (owner.left + owner.right - area.left - area.right) / 2,
-             (owner.top + owner.bottom - area.top - area.bottom) / 2);
+  moveto((owner.left + owner.right - area.right + area.left) / 2,
+         (owner.top + owner.bottom - area.bottom + area.top) / 2);
+}
+
+void InputBox::moveto(LONG left, LONG top) {
+  RECT area{};
+  GetWindowRect(box_, &area);
+  OffsetRect(&area, left - area.left, top - area.top);
   area = onscreen(area);
   place(box_, area.left, area.top, {area.right - area.left, area.bottom - area.top});
 }
@@ -194,18 +213,10 @@ void InputBox::typed() {
   heard_(difference(before, before_));
 }
 
-std::string_view InputBox::answerof(WPARAM key) const {
-  switch (key) {
-    case VK_LEFT: return arrows_.left;
-    case VK_UP: return arrows_.up;
-    case VK_RIGHT: return arrows_.right;
-    case VK_DOWN: return arrows_.down;
-    default: return {};
-  }
-}
-
 void InputBox::caretkey(WPARAM key, LPARAM details) {
-  if (const std::string_view answer = answerof(key); before_.empty() && !answer.empty()) {
+  const KeyPress press = virtualkey(pressedkey(key, details)).value_or(KeyPress{});
+  if (const std::string_view answer = answerof(press, arrows_);
+      before_.empty() && !answer.empty()) {
     answer_ = answer;
     EndDialog(box_, IDOK);
     return;
@@ -214,10 +225,7 @@ void InputBox::caretkey(WPARAM key, LPARAM details) {
   const std::size_t from = caret();
   DefSubclassProc(field_, WM_KEYDOWN, key, details);
   if (before_ != unchanged) return;  // it was told
-  const bool moved = caret() != from;
-  if (!moved && std::ranges::find(caretkeys, static_cast<int>(key)) == caretkeys.end()) return;
-  const std::wstring came = righthand(text(), caret(), GetKeyState(VK_CONTROL) < 0);
-  heard_(moved && !came.empty() ? utf8(came) : before_);
+  if (const auto read = readfield(press, before_, from, caret())) heard_(*read);
 }
 
 std::wstring InputBox::text() const {
@@ -231,7 +239,7 @@ std::size_t InputBox::caret() const {
   DWORD start = 0;
   DWORD end = 0;
   SendMessageW(field_, EM_GETSEL, reinterpret_cast<WPARAM>(&start), reinterpret_cast<LPARAM>(&end));
-  return end;
+  return utf8(text().substr(0, end)).size();
 }
 
 }  // namespace duskmarch

@@ -30,14 +30,15 @@ class InputBox {
   HWND add(const wchar_t* kind, const std::wstring& text, DWORD style, int id);
   void makeparts();
   void layout();
+  LONG letters() const;
+  void centre();
+  void moveto(LONG left, LONG top);
   SIZE roomforprompt() const;
   void focused(HWND part);
   void typed();
-  // Empty for a key that answers nothing.
-  std::string_view answerof(WPARAM key) const;
   void caretkey(WPARAM key, LPARAM details);
   std::wstring text() const;
-  std::size_t caret() const;
+  std::size_t caret() const;  // in bytes of the text before it
 
   std::wstring title_;
   std::string prompt_;

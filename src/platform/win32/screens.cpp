@@ -8,10 +8,10 @@ namespace {
 
 constexpr int usualdpi = USER_DEFAULT_SCREEN_DPI;
 
-RECT freearea(const RECT& area) {
+RECT freeareaof(HMONITOR monitor) {
   MONITORINFO screen{};
   screen.cbSize = sizeof screen;
-  GetMonitorInfoW(MonitorFromRect(&area, MONITOR_DEFAULTTONEAREST), &screen);
+  GetMonitorInfoW(monitor, &screen);
   return screen.rcWork;
 }
 
@@ -25,8 +25,12 @@ int devicepixels(HWND window, int pixels) {
   return MulDiv(pixels, static_cast<int>(GetDpiForWindow(window)), usualdpi);
 }
 
+RECT freearea(HWND window) {
+  return freeareaof(MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST));
+}
+
 RECT onscreen(RECT area) {
-  const RECT free = freearea(area);
+  const RECT free = freeareaof(MonitorFromRect(&area, MONITOR_DEFAULTTONEAREST));
   const LONG width = std::min(area.right - area.left, free.right - free.left);
   const LONG height = std::min(area.bottom - area.top, free.bottom - free.top);
   const LONG left = std::clamp(area.left, free.left, free.right - width);
