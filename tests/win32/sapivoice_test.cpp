@@ -160,8 +160,8 @@ class SapiVoices : public testing::Test {
   }
 
   std::shared_ptr<Studio> studio_ = std::make_shared<Studio>();
-  SapiVoice voice_{std::make_shared<Mixer>(), [](std::string_view) {},
-                   [studio = studio_] { return make(studio); }};
+  std::shared_ptr<Mixer> mixer_ = std::make_shared<Mixer>();
+  SapiVoice voice_{mixer_, [](std::string_view) {}, [studio = studio_] { return make(studio); }};
 };
 
 TEST_F(SapiVoices, OneThatHangsHoldsUpNobodyAndThenSaysTheLastText) {
@@ -189,6 +189,17 @@ TEST_F(SapiVoices, OneThatHasGoneIsMadeAgainAndSpeaksAsBefore) {
   }
   voice_.speak("still here");
   studio_->await({"Zoë", "rate 3", "19 here", "Zoë", "rate 3", "19 still here"});
+}
+
+TEST_F(SapiVoices, AnotherDeviceIsSpokenThroughByAnotherVoice) {
+  ASSERT_TRUE(voice_.setvoice("Anna"));
+  voice_.speak("headphones");
+  studio_->await({"Anna", "19 headphones"});
+  mixer_->devicereplaced();
+  voice_.speak("loudspeaker");
+  voice_.speakafter("still");
+  studio_->await({"Anna", "19 headphones", "Anna", "19 loudspeaker", "17 still"});
+  EXPECT_EQ(studio_->made, 2);
 }
 
 TEST_F(SapiVoices, TheVoicesOfTheSystemAreThoseToChooseFrom) {

@@ -47,6 +47,10 @@ class Mixer {
   // The sample clock: the frame at which the next block begins.
   std::uint64_t now() const { return clock_; }
   // Whether a voice speaks that is not among the sources. The sources tell it themselves.
+  // How often a device has taken the place of another. A voice that speaks through the system may
+  // have to be made again then.
+  unsigned newdevices() const noexcept { return newdevices_; }
+  void devicereplaced() noexcept { ++newdevices_; }
   void setspeaking(bool speaking) { speaking_ = speaking; }
 
   // Frees what the audio thread no longer needs. Other calls do so too; this is for quiet times.
@@ -96,6 +100,7 @@ class Mixer {
   Mailbox<Sources> sourcelists_;
   std::atomic<std::uint64_t> clock_ = 0;
   std::atomic<bool> speaking_ = false;
+  std::atomic<unsigned> newdevices_ = 0;
   TimedVoices cues_{{.atonce = 16, .fadein = 0, .fadeout = mixrate / 50}};
   TimedVoices ambience_{{.atonce = 4, .fadein = mixrate / 2, .fadeout = mixrate / 2}};
 };

@@ -39,7 +39,9 @@ struct SoundOutput::Keeper {
       set(opened);
       while (!endingwithin(watchinterval)) {
         mixer->tidy();
-        if (device->lost(patience)) replace(*device);
+        if (!device->lost(patience)) continue;
+        replace(*device);
+        mixer->devicereplaced();
       }
     } catch (const std::exception& problem) {
       error = problem.what();

@@ -118,6 +118,7 @@ class SapiVoice::Clerk {
 
   Orders& orders_;
   ComPtr<IDispatch> voice_;
+  unsigned devices_ = 0;     // that had taken another's place when it spoke last
   std::optional<int> rate_;  // that the voice was given
   std::string name_;         // that it was given; empty: it has its own voice still
   std::vector<NamedVoice> voices_;
@@ -184,7 +185,10 @@ void SapiVoice::Clerk::saywhole(const Utterance& utterance) {
   }
 }
 
+// A voice speaks to its end through the device that it began with, heard or not.
 void SapiVoice::Clerk::say(const Utterance& utterance) {
+  const unsigned devices = orders_.sounds->newdevices();
+  if (std::exchange(devices_, devices) != devices) voice_.reset();
   if (!voice_) {
     voice_ = orders_.make();
     rate_.reset();
