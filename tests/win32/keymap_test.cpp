@@ -45,6 +45,7 @@ TEST(Win32Keys, LettersGoByWhatTheyAreAndPunctuationByItsPlace) {
       {"the player's Ctrl", {.virtualkey = VK_CONTROL, .scancode = 0x1D}, key::ctrl},
       {"Ctrl, T as mode 2 sends them", {.virtualkey = VK_CONTROL}, -1},
       {"T as mode 2 sends it", {.virtualkey = 'T', .printed = 'T'}, -1},
+      {"a letter that no key stands behind", {.virtualkey = VK_PACKET, .scancode = 0x33}, -1},
       {"Shift", {.virtualkey = VK_SHIFT, .scancode = 0x2A}, -1},
       {"AltGr", {.virtualkey = VK_MENU, .scancode = 0x38, .extended = true}, -1},
       {"Windows", {.virtualkey = VK_LWIN, .scancode = 0x5B, .extended = true}, -1},

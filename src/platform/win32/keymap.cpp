@@ -72,6 +72,7 @@ PressedKey pressedkey(WPARAM key, LPARAM details) {
 
 std::optional<KeyPress> virtualkey(const PressedKey& pressed) {
   if (isone(companions, pressed.virtualkey)) return std::nullopt;
+  if (pressed.virtualkey == VK_PACKET) return std::nullopt;  // its place is no place
   if (pressed.scancode == 0 && isone(readingkeys, pressed.virtualkey)) return std::nullopt;
   return KeyPress{keycode(pressed), pressed.shift};
 }

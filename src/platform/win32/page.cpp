@@ -58,7 +58,7 @@ void Win32Page::show(std::string_view text) {
 
 void Win32Page::hide() {
   if (edit_ == nullptr || IsWindowVisible(edit_) == 0) return;
-  if (GetFocus() == edit_) window_.givefocus(nullptr);
+  window_.takefocusfrom(edit_);
   ShowWindow(edit_, SW_HIDE);
   window_.uncovered();
 }

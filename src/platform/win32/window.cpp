@@ -66,8 +66,10 @@ bool handleevents() {
       PostQuitMessage(0);  // for whoever waits further out
       return false;
     }
-    // Not translated: the window and its pages take no characters, and a dead key that was
-    // pressed here must not join what is typed into a box.
+    // Keys are not translated: the window and its pages take no characters, and a dead key that
+    // was pressed here must not join what is typed into a box. What no key stands behind has
+    // nothing but its character.
+    if (message.wParam == VK_PACKET && message.message == WM_KEYDOWN) TranslateMessage(&message);
     DispatchMessageW(&message);
   }
   return true;
@@ -159,14 +161,31 @@ void Win32Window::givefocus(HWND page) {
   SetFocus(page != nullptr ? page : handle_);
 }
 
+void Win32Window::takefocusfrom(HWND page) {
+  if (focus_ != page) return;
+  focus_ = nullptr;
+  if (GetFocus() == page) SetFocus(handle_);  // else a box has it, or another program
+}
+
 bool Win32Window::takekey(WPARAM key, LPARAM details) {
   if (forthesystem(pressedkey(key, details))) return false;
   const auto time = static_cast<DWORD>(GetMessageTime());
   if (const auto press = virtualkey(key, details, time); press && game_ != nullptr) {
-    keypress(*game_, *press);
-    if (!game_->busyfiles.empty()) SetTimer(handle_, filestimer, betweentries, nullptr);
+    takepress(*press);
   }
   return true;
+}
+
+void Win32Window::takepress(KeyPress press) {
+  keypress(*game_, press);
+  if (!game_->busyfiles.empty()) SetTimer(handle_, filestimer, betweentries, nullptr);
+}
+
+// Letters from a braille keyboard, or dictated.
+void Win32Window::takecharacter(WPARAM character) {
+  const WPARAM letter = character & ~WPARAM{0x20};
+  if (letter < 'A' || letter > 'Z' || game_ == nullptr) return;
+  takepress({static_cast<int>(letter), modifier::none});
 }
 
 void Win32Window::runmodal(const std::function<void(int keycode)>& pressed,
@@ -177,8 +196,13 @@ void Win32Window::runmodal(const std::function<void(int keycode)>& pressed,
   uncovered();
 }
 
+// A reader keeps silent about a name that it knows already, and may look too late to see another
+// one in between: a space at the end, there or not, makes each one new.
 void Win32Window::settitle(std::string_view title) {
-  SetWindowTextW(handle_, utf16(title).c_str());
+  const std::string before = std::exchange(title_, std::string(title));
+  if (title_ == before + ' ') return;  // it only prepares for the same title again
+  longer_ = !longer_;
+  SetWindowTextW(handle_, utf16(longer_ ? title_ + ' ' : title_).c_str());
 }
 
 Canvas* Win32Window::spokenline() {
@@ -255,6 +279,7 @@ LRESULT Win32Window::handle(UINT message, WPARAM first, LPARAM second) {
     case WM_SYSCOMMAND:
       if ((first & 0xFFF0U) == SC_KEYMENU && second == 0) return 0;  // Alt alone, or F10
       break;
+    case WM_CHAR: takecharacter(first); return 0;
     case WM_PAINT: paint(); return 0;
     case WM_ERASEBKGND: return 1;
     case WM_CTLCOLORSTATIC:
@@ -262,6 +287,9 @@ LRESULT Win32Window::handle(UINT message, WPARAM first, LPARAM second) {
       break;
     case WM_SIZE: resized(); return 0;
     case WM_DPICHANGED: rescaled(*reinterpret_cast<const RECT*>(second)); return 0;
+    case WM_SETFOCUS:  // as when it is no longer minimised
+      if (focus_ != nullptr) SetFocus(focus_);
+      return 0;
     case WM_ACTIVATE:
       if (LOWORD(first) != WA_INACTIVE && HIWORD(first) == 0) activated();
       return 0;

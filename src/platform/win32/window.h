@@ -42,6 +42,8 @@ class Win32Window : public Window {
   // Gives the focus to a page, or with nullptr back to the window, now and whenever the window
   // becomes active again.
   void givefocus(HWND page);
+  // The page is hidden: the window gets the focus that it has, or would have.
+  void takefocusfrom(HWND page);
   // A key pressed in the window or in one of its pages: the game gets it. False if it is the
   // system's.
   bool takekey(WPARAM key, LPARAM details);
@@ -59,6 +61,8 @@ class Win32Window : public Window {
  private:
   static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM first, LPARAM second);
   LRESULT handle(UINT message, WPARAM first, LPARAM second);
+  void takecharacter(WPARAM character);
+  void takepress(KeyPress press);
   bool drops(const MSG& message);
   void makepostedcalls();
   void lookforreader();
@@ -79,6 +83,8 @@ class Win32Window : public Window {
   std::vector<HWND> pages_;
   HWND focus_ = nullptr;  // the page that has the focus while the window is active
   std::function<void(int keycode)> boxkeypressed_;
+  std::string title_;    // as the game set it
+  bool longer_ = false;  // by the space after it
   bool readerseen_ = false;
   bool stale_ = true;  // the game must draw again before the picture is shown
   std::mutex postmutex_;
