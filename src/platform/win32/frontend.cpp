@@ -15,7 +15,7 @@ FrontEnd::FrontEnd(const GameFolders& folders)
 int FrontEnd::run(Game& game, int how) {
   window_.attach(game);
   startup(game);
-  if (game.ended) return 1;
+  if (game.ended) return game.dsound != nullptr && !system_.alreadyrunning() ? 0 : 1;
   window_.run(how);
   return 0;
 }

@@ -27,16 +27,25 @@ std::filesystem::path programfolder() {
   }
 }
 
-}  // namespace
-
-int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int how) {
-  if (const auto status = duskmarch::answerarguments(duskmarch::commandline(0, nullptr))) {
-    return *status;
-  }
+// The game from its window to its end.
+int play(int how) {
   const duskmarch::ComThread com(COINIT_APARTMENTTHREADED);
   const duskmarch::GameFolders folders(programfolder());
   duskmarch::FrontEnd frontend(folders);
   duskmarch::Game game(frontend.desktop());
   const duskmarch::CrashHandler crashhandler(game.trace, folders.files());
   return frontend.run(game, how);
+}
+
+}  // namespace
+
+int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int how) {
+  if (const auto status = duskmarch::answerarguments(duskmarch::commandline(0, nullptr))) {
+    return *status;
+  }
+  const int status = play(how);
+  // A thread may still wait for a frozen device, voice or screen reader: the system's libraries must
+  // neither be taken down under it nor wait for it.
+  TerminateProcess(GetCurrentProcess(), static_cast<UINT>(status));
+  return status;
 }
