@@ -5,7 +5,8 @@ usage: desktop_test.py BUILD-FOLDER [SCENE...]
 """
 
 import math
-import subprocess
+import os
+import signal
 import sys
 import zipfile
 
@@ -50,6 +51,13 @@ def expect_logged(game, folder, words):
     errors.unlink()
 
 
+def expect_message(game, start):
+    """The message box with a text that begins so."""
+    game.expect(lambda: game.window("#32770"), "the box")
+    words = [part["text"] for part in game.window("#32770")["parts"]]
+    assert any(text.startswith(start) for text in words), words
+
+
 def close(game):
     game.ask("close")
     assert game.program.wait(LIMIT) == 0
@@ -61,6 +69,31 @@ def enter_the_test_mission(game):
     game.expect_title("Test mission where you control 2", "Down")
     game.expect_title("Test mission where you control 2", "r")
     game.expect_focus("Edit", STORY, "Return")
+
+
+def expect_heard(game, key, file, decibels=0):
+    """The sound of the file upon the key, on both sides alike."""
+    gain = 10 ** (decibels / 20)
+    expected = [gain * sample for sample in wav_samples(file) if sample]
+    with game.listening() as ears:
+        game.press(key)
+        left, right = ears.next_sound()
+    assert left == right, file
+    # A busy machine may lose a few samples on the way, but not make others of them.
+    begin = zip(left[:BEGIN], expected[:BEGIN])
+    assert all(math.isclose(*pair, rel_tol=0.001, abs_tol=1e-6) for pair in begin), file
+    assert math.isclose(loudness(left), loudness(expected), abs_tol=0.5), file
+
+
+def line_of_caret(game):
+    page = game.focus()
+    text, caret = page["text"], page["caret"]
+    return text[text.rfind("\n", 0, caret) + 1:].partition("\r")[0]
+
+
+def choose_to_move(game):
+    game.expect_title("Nightjar selected at location B 5.", "space")
+    game.expect_title("Move.  Moving is only allowed", "Down")
 
 
 def open_the_box(game):
@@ -81,8 +114,7 @@ def the_reader_hears_a_turn(game, folder):
     game.expect(lambda: game.focus()["caret"] > 0, "the caret in the second line")
     game.expect_focus("Duskmarch", "", "Escape")
     game.expect_title("B 4,", "Up")
-    game.expect_title("Nightjar selected at location B 5.", "space")
-    game.expect_title("Move.  Moving is only allowed", "Down")
+    choose_to_move(game)
     open_the_box(game)
     game.expect_title("Canceled.", "Escape")
     open_the_box(game)
@@ -130,6 +162,47 @@ def the_voice_reads_pages_and_boxes(game, folder):
     game.expect_said(PROMPT + "  xn", "Tab")
     game.expect_said("xn", "BackSpace")  # selected, as ever after Tab
     close(game)  # with the box open
+
+
+def an_arrow_answers_the_box(game, folder):
+    choose(folder, 1)
+    game.play(folder / "duskmarch.exe")
+    enter_the_test_mission(game)
+    game.expect_focus("Duskmarch", "", "Escape")
+    choose_to_move(game)
+    open_the_box(game)
+    game.expect_title("Nightjar moves to the North.", "Up")
+    close(game)
+
+
+def pages_tell_of_keys_and_sounds(game, folder):
+    choose(folder, 1)
+    (folder / "comfort.ini").write_bytes(b" 1 \r\n 10 \r\n 0 \r\n\r\n")  # cues, but no ambience
+    game.play(folder / "duskmarch.exe")
+    game.expect_title("Start new game", "Down")
+    game.expect_focus("Edit", "Help for the main menu.", "F1")
+    assert "\nF7: a page with all sounds" in game.focus()["text"], game.focus()
+    game.expect_focus("Duskmarch", "Start new game", "Escape")
+    game.expect_focus("Edit", "Step: somebody takes a step.", "F7")
+    game.press("Down", "Down")
+    game.expect(lambda: line_of_caret(game).startswith("Dive: "), "the line of a sound")
+    expect_heard(game, "F7", folder / "sounds/cues/dive.wav", decibels=-2)
+    game.expect_focus("Duskmarch", "Start new game", "Escape")
+    close(game)
+
+
+def the_voice_changes(game, folder):
+    choose(folder, 0)
+    game.play(folder / "duskmarch.exe")
+    game.expect_said("Start new game", "Down")
+    game.expect_said("High Voice", "F11")
+    close(game)
+    game.speech.unlink()
+    game.play(folder / "duskmarch.exe")
+    game.expect(lambda: "Voice High Voice" in game.said(), "the same voice again")
+    game.expect_said("Low Voice", "shift+F11")
+    assert game.said().count("Voice Low Voice") == 1, game.said()
+    close(game)
 
 
 def the_voice_hangs(game, folder):
@@ -208,16 +281,7 @@ def sounds_are_heard_as_they_are_recorded(game, folder):
     game.play(folder / "duskmarch.exe")
     game.expect_focus("Duskmarch", "Welcome to Duskmarch")
     for key, sound in (("Down", "arrows"), ("Tab", "WE")):
-        expected = [sample for sample in wav_samples(folder / "sounds" / "menu" / (sound + ".wav"))
-                    if sample]
-        with game.listening() as ears:
-            game.press(key)
-            left, right = ears.next_sound()
-        assert left == right, sound
-        # A busy machine may lose a few samples on the way, but not make others of them.
-        begin = zip(left[:BEGIN], expected[:BEGIN])
-        assert all(math.isclose(*pair, rel_tol=0.001, abs_tol=1e-6) for pair in begin), sound
-        assert math.isclose(loudness(left), loudness(expected), abs_tol=0.5), sound
+        expect_heard(game, key, folder / "sounds" / "menu" / (sound + ".wav"))
     close(game)
 
 
@@ -225,12 +289,56 @@ def without_a_device_it_ends(game, folder):
     choose(folder, 1)
     game.start_program(folder / "duskmarch.exe",
                                  PULSE_SERVER=f"unix:{game.folder}/nowhere")
-    game.expect(lambda: game.window("#32770"), "the box")
-    words = [part["text"] for part in game.window("#32770")["parts"]]
-    assert any(text.startswith("Unable to start DirectSound") for text in words), words
+    expect_message(game, "Unable to start DirectSound")
     game.press("Return")
     assert game.program.wait(LIMIT) == 1
     expect_logged(game, folder, "sound")
+
+
+def a_frozen_device_holds_nothing_up(game, folder):
+    choose(folder, 1)
+    os.kill(game.sink.pid, signal.SIGSTOP)
+    game.start_program(folder / "duskmarch.exe")
+    expect_message(game, "Unable to start DirectSound")
+    game.press("Return")
+    assert game.program.wait(LIMIT) == 1
+    expect_logged(game, folder, "the sound device does not answer")
+    os.kill(game.sink.pid, signal.SIGCONT)
+    game.play(folder / "duskmarch.exe")
+    game.expect_title("Start new game", "Down")
+    os.kill(game.sink.pid, signal.SIGSTOP)
+    game.expect_title("Test mission where you control 2", "Down")
+    game.ask("close")
+    # Wine may fall over a thread of its own, which waits for the device when the program is gone.
+    assert game.program.wait(LIMIT) in (0, -signal.SIGSEGV)
+    os.kill(game.sink.pid, signal.SIGCONT)
+
+
+def a_second_start_is_refused(game, folder):
+    choose(folder, 1)
+    game.play(folder / "duskmarch.exe")
+    game.expect_title("Start new game", "Down")
+    first = game.program
+    game.start_program(folder / "duskmarch.exe")
+    expect_message(game, "Duskmarch is already running.")
+    game.press("Return")
+    assert game.program.wait(LIMIT) == 1
+    game.program = first
+    game.expect_title("Test mission where you control 2", "Down")
+    close(game)
+
+
+def arguments_are_answered(game, folder):
+    for argument, status, output, errors in (
+            ("--version", 0, "duskmarch ", ""),
+            ("--help", 0, "usage: duskmarch\n", ""),
+            ("--żółw", 2, "", 'duskmarch: There is no argument "--żółw"; --help tells')):
+        answer = game.answer_of(folder / "duskmarch.exe", argument)
+        assert answer.returncode == status, answer
+        for text, start in ((answer.stdout, output), (answer.stderr, errors)):
+            assert text.startswith(start) and bool(text) == bool(start), answer
+    shown = game.answer_of(folder / "duskmarch.exe", "--version", terminal=True)
+    assert "duskmarch " in shown.stdout, shown
 
 
 def a_crash_leaves_the_keys(game, folder):
@@ -254,10 +362,12 @@ def the_system_shuts_down(game, folder):
     assert game.program.wait(LIMIT) == 0
 
 
-SCENES = (the_reader_hears_a_turn, the_voice_reads_pages_and_boxes, the_voice_hangs,
+SCENES = (the_reader_hears_a_turn, the_voice_reads_pages_and_boxes, an_arrow_answers_the_box,
+          pages_tell_of_keys_and_sounds, the_voice_changes, the_voice_hangs,
           jaws_speaks_goes_and_comes_back, tab_goes_round_the_engines, window_eyes_is_sent_its_keys,
           sounds_are_heard_as_they_are_recorded, the_settings_are_locked, the_system_shuts_down,
-          without_a_device_it_ends, a_crash_leaves_the_keys)
+          a_second_start_is_refused, arguments_are_answered, without_a_device_it_ends,
+          a_frozen_device_holds_nothing_up, a_crash_leaves_the_keys)
 
 
 def main(build, *chosen):

@@ -5,6 +5,7 @@ import json
 import math
 import os
 import pathlib
+import shlex
 import shutil
 import subprocess
 import sys
@@ -122,6 +123,14 @@ class WineSession:
     def runs(self, *command):
         """Whether the program ends well."""
         return self.start(WINE, *command).wait(LIMIT) == 0
+
+    def answer_of(self, *command, terminal=False):
+        """What the program says to whoever reads it by pipes, or on a terminal."""
+        words = [WINE, *command]
+        if terminal:
+            words = ["script", "-qec", shlex.join(map(str, words)), "/dev/null"]
+        return subprocess.run(words, check=False, capture_output=True, encoding="utf-8",
+                              stdin=subprocess.DEVNULL, timeout=LIMIT)
 
     def with_standins(self):
         """For the voice of the system and for JAWS."""

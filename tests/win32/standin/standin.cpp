@@ -2,8 +2,10 @@
 // told to the file %SPEECH_LOG%, a line each. What they do is changed while the game runs, by files
 // beside it: %SPEECH_LOG%.voice and %SPEECH_LOG%.jaws hold one word. "hang": a call does not return
 // until that file has gone; "gone": every object fails for good, and none can be made; "deaf": a
-// text is refused; "long": the voice goes on speaking.
+// text is refused; "long": the voice goes on speaking. The voice can be either of two.
 #include <cstdio>
+#include <iterator>
+#include <span>
 #include <string>
 
 #include <windows.h>
@@ -17,7 +19,20 @@ constexpr CLSID voice = {
 constexpr CLSID jaws = {
     0x6c0f4a51, 0x2f0e, 0x4b6d, {0x9a, 0x11, 0x5d, 0x0c, 0x37, 0x6e, 0x80, 0x02}};
 
-enum Member : DISPID { rate = 1, speak, status, runningstate, saystring };
+constexpr const wchar_t* voicenames[] = {L"Low Voice", L"High Voice"};
+
+enum Member : DISPID {
+  rate = 1,
+  speak,
+  status,
+  runningstate,
+  voiceproperty,
+  getvoices,
+  saystring,
+  count,
+  item,
+  getdescription
+};
 
 std::wstring logname() {
   wchar_t name[MAX_PATH] = L"";
@@ -60,10 +75,22 @@ std::string textin(const VARIANTARG& argument) {
   return line;
 }
 
-class Speech : public IDispatch {
+struct MemberName {
+  const wchar_t* name;
+  DISPID id;
+};
+constexpr MemberName ofvoice[] = {{L"Rate", rate},           {L"Speak", speak},
+                                  {L"Status", status},       {L"RunningState", runningstate},
+                                  {L"Voice", voiceproperty}, {L"GetVoices", getvoices}};
+constexpr MemberName ofjaws[] = {{L"SayString", saystring}};
+constexpr MemberName oflist[] = {{L"Count", count}, {L"Item", item}};
+constexpr MemberName ofone[] = {{L"GetDescription", getdescription}};
+
+// What all the objects do alike.
+class Object : public IDispatch {
  public:
-  explicit Speech(bool thevoice) : thevoice_(thevoice) { note(thevoice ? "voice" : "jaws"); }
-  virtual ~Speech() = default;
+  explicit Object(std::span<const MemberName> members) : members_(members) {}
+  virtual ~Object() = default;
 
   HRESULT WINAPI QueryInterface(REFIID kind, void** object) override {
     const bool known = kind == IID_IUnknown || kind == IID_IDispatch;
@@ -77,35 +104,81 @@ class Speech : public IDispatch {
     if (left == 0) delete this;
     return static_cast<ULONG>(left);
   }
-  HRESULT WINAPI GetTypeInfoCount(UINT* count) override {
-    *count = 0;
+  HRESULT WINAPI GetTypeInfoCount(UINT* number) override {
+    *number = 0;
     return S_OK;
   }
   HRESULT WINAPI GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
   HRESULT WINAPI GetIDsOfNames(REFIID, LPOLESTR* names, UINT, LCID, DISPID* id) override {
-    struct Row {
-      const wchar_t* name;
-      DISPID id;
-      bool voices;
-    };
-    static constexpr Row rows[] = {{L"Rate", rate, true},
-                                   {L"Speak", speak, true},
-                                   {L"Status", status, true},
-                                   {L"RunningState", runningstate, true},
-                                   {L"SayString", saystring, false}};
-    for (const Row& row : rows) {
-      *id = row.id;
-      if (row.voices == thevoice_ && lstrcmpiW(*names, row.name) == 0) return S_OK;
+    for (const MemberName& member : members_) {
+      *id = member.id;
+      if (lstrcmpiW(*names, member.name) == 0) return S_OK;
     }
     *id = DISPID_UNKNOWN;
     return DISP_E_UNKNOWNNAME;
   }
+
+ private:
+  std::span<const MemberName> members_;
+  LONG shares_ = 1;
+};
+
+HRESULT answer(VARIANT& result, long number) {
+  result.vt = VT_I4;
+  result.lVal = number;
+  return S_OK;
+}
+
+// Hands over a share.
+HRESULT answer(VARIANT& result, IDispatch* object) {
+  result.vt = VT_DISPATCH;
+  result.pdispVal = object;
+  return S_OK;
+}
+
+// One of the voices that the voice can be, and the list of them.
+class OneVoice : public Object {
+ public:
+  explicit OneVoice(const wchar_t* name) : Object(ofone), name_(name) {}
+  HRESULT WINAPI Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT* result, EXCEPINFO*,
+                        UINT*) override {
+    result->vt = VT_BSTR;
+    result->bstrVal = SysAllocString(name_);
+    return S_OK;
+  }
+  const wchar_t* name() const { return name_; }
+
+ private:
+  const wchar_t* name_;
+};
+
+class VoiceList : public Object {
+ public:
+  VoiceList() : Object(oflist) {}
+  HRESULT WINAPI Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS* given, VARIANT* result,
+                        EXCEPINFO*, UINT*) override {
+    if (id == count) return answer(*result, static_cast<long>(std::size(voicenames)));
+    const long number = given->cArgs == 1 ? numberin(given->rgvarg[0]) : -1;
+    if (number < 0 || number >= static_cast<long>(std::size(voicenames))) return DISP_E_BADINDEX;
+    return answer(*result, new OneVoice(voicenames[number]));
+  }
+};
+
+class Speech : public Object {
+ public:
+  explicit Speech(bool thevoice)
+      : Object(thevoice ? std::span<const MemberName>(ofvoice) : ofjaws), thevoice_(thevoice) {
+    note(thevoice ? "voice" : "jaws");
+  }
+
   HRESULT WINAPI Invoke(DISPID id, REFIID, LCID, WORD kind, DISPPARAMS* given, VARIANT* result,
                         EXCEPINFO*, UINT*) override {
     // Another one may be made when they are back, but this one has lost them.
     gone_ = gone_ || orderfor(thevoice_) == "gone";
     if (gone_) return RPC_E_DISCONNECTED;
     if (id == rate && kind == DISPATCH_PROPERTYPUT) return setrate(*given);
+    if (id == voiceproperty && kind == DISPATCH_PROPERTYPUTREF) return setvoice(*given);
+    if (id == getvoices) return answer(*result, new VoiceList);
     if (kind == DISPATCH_PROPERTYGET) return getstate(id, *result);
     if (kind != DISPATCH_METHOD || given->cArgs != 2) return DISP_E_BADPARAMCOUNT;
     return id == speak || id == saystring ? say(*given, result) : DISP_E_MEMBERNOTFOUND;
@@ -120,16 +193,16 @@ class Speech : public IDispatch {
     note("Rate " + std::to_string(numberin(given.rgvarg[0])));
     return S_OK;
   }
-  HRESULT getstate(DISPID id, VARIANT& result) {
-    if (id == status) {
-      AddRef();
-      result.vt = VT_DISPATCH;
-      result.pdispVal = this;
-    } else {
-      result.vt = VT_I4;
-      result.lVal = orderfor(thevoice_) == "long" ? 2 : 1;
-    }
+  static HRESULT setvoice(DISPPARAMS& given) {
+    if (given.cArgs != 1 || given.rgvarg[0].vt != VT_DISPATCH) return DISP_E_TYPEMISMATCH;
+    note("Voice " + duskmarch::utf8(static_cast<OneVoice*>(given.rgvarg[0].pdispVal)->name()));
     return S_OK;
+  }
+  HRESULT getstate(DISPID id, VARIANT& result) {
+    if (id == voiceproperty) return answer(result, new OneVoice(voicenames[0]));
+    if (id != status) return answer(result, orderfor(thevoice_) == "long" ? 2 : 1);
+    AddRef();
+    return answer(result, this);
   }
   HRESULT say(DISPPARAMS& given, VARIANT* result) const {
     hangwhiletold(thevoice_);
@@ -145,7 +218,6 @@ class Speech : public IDispatch {
     return heard || !thevoice_ ? S_OK : E_FAIL;
   }
 
-  LONG shares_ = 1;
   bool thevoice_;
   bool gone_ = false;
 };
