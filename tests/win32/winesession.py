@@ -1,12 +1,14 @@
 """The game for Windows on a private display: its windows as a screen reader finds them, and keys."""
 
 import array
+import contextlib
 import json
 import math
 import os
 import pathlib
 import shlex
 import shutil
+import signal
 import subprocess
 import sys
 import tempfile
@@ -179,6 +181,15 @@ class WineSession:
         else:
             file.with_suffix(".new").write_text(order)
             file.with_suffix(".new").rename(file)
+
+    @contextlib.contextmanager
+    def frozen_sink(self):
+        """The sound device answers nothing in a `with`."""
+        os.kill(self.sink.pid, signal.SIGSTOP)
+        try:
+            yield
+        finally:
+            os.kill(self.sink.pid, signal.SIGCONT)
 
     def listening(self):
         return Ears(self)

@@ -17,12 +17,20 @@ bool isopen(HANDLE file) {
   return file != nullptr && file != INVALID_HANDLE_VALUE;
 }
 
-// To a file, a pipe or a console that the program was given; false where it was given none.
-bool writebytes(DWORD stream, std::string_view line) {
-  const HANDLE file = GetStdHandle(stream);
+// A console would read bytes in a code page of its own.
+bool writewords(HANDLE console, const std::wstring& words) {
   DWORD written = 0;
-  return isopen(file) && GetFileType(file) != FILE_TYPE_UNKNOWN &&
-         WriteFile(file, line.data(), static_cast<DWORD>(line.size()), &written, nullptr) != 0;
+  return WriteConsoleW(console, words.data(), static_cast<DWORD>(words.size()), &written,
+                       nullptr) != 0;
+}
+
+// To a file, a pipe or a console that the program was given; false where it was given none.
+bool writetostream(DWORD stream, std::string_view line) {
+  const HANDLE file = GetStdHandle(stream);
+  if (!isopen(file) || GetFileType(file) == FILE_TYPE_UNKNOWN) return false;
+  DWORD number = 0;
+  if (GetConsoleMode(file, &number) != 0) return writewords(file, utf16(line));
+  return WriteFile(file, line.data(), static_cast<DWORD>(line.size()), &number, nullptr) != 0;
 }
 
 // To the console of the program that started this one; false where that has none.
@@ -31,10 +39,8 @@ bool writetoparent(std::string_view line) {
   const HANDLE console = CreateFileW(L"CONOUT$", GENERIC_READ | GENERIC_WRITE, FILE_SHARE_WRITE,
                                      nullptr, OPEN_EXISTING, 0, nullptr);
   if (!isopen(console)) return false;
-  const std::wstring words = L"\r\n" + utf16(line);  // the prompt is there again already
-  DWORD written = 0;
-  const bool done = WriteConsoleW(console, words.data(), static_cast<DWORD>(words.size()), &written,
-                                  nullptr) != 0;
+  const bool done =
+      writewords(console, L"\r\n" + utf16(line));  // the prompt is there again already
   CloseHandle(console);
   return done;
 }
@@ -58,7 +64,7 @@ void usebinarystreams() {
 void tellcaller(std::string_view text, Stream stream) {
   const bool isoutput = stream == Stream::output;
   const std::string line = std::string(text) + "\n";
-  if (writebytes(isoutput ? STD_OUTPUT_HANDLE : STD_ERROR_HANDLE, line) || writetoparent(line)) {
+  if (writetostream(isoutput ? STD_OUTPUT_HANDLE : STD_ERROR_HANDLE, line) || writetoparent(line)) {
     return;
   }
   MessageBoxW(nullptr, utf16(text).c_str(), L"Duskmarch", isoutput ? MB_OK : MB_ICONERROR);

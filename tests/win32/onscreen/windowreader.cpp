@@ -33,13 +33,19 @@ std::string quoted(const std::wstring& text) {
   return json + '"';
 }
 
+// What the window answers; 0 from one that hangs.
+std::size_t answerof(HWND window, UINT message, WPARAM first, LPARAM second) {
+  constexpr UINT patience = 5000;  // milliseconds
+  DWORD_PTR answer = 0;
+  SendMessageTimeoutW(window, message, first, second, SMTO_NORMAL, patience, &answer);
+  return answer;
+}
+
 // As a reader gets it, by message.
 std::wstring textof(HWND window) {
-  const auto size = static_cast<std::size_t>(SendMessageW(window, WM_GETTEXTLENGTH, 0, 0));
+  const std::size_t size = answerof(window, WM_GETTEXTLENGTH, 0, 0);
   std::wstring text(size + 1, L'\0');
-  const LRESULT read =
-      SendMessageW(window, WM_GETTEXT, size + 1, reinterpret_cast<LPARAM>(text.data()));
-  text.resize(static_cast<std::size_t>(read));
+  text.resize(answerof(window, WM_GETTEXT, size + 1, reinterpret_cast<LPARAM>(text.data())));
   return text;
 }
 
@@ -52,7 +58,7 @@ std::wstring classof(HWND window) {
 DWORD caretof(HWND window) {
   DWORD start = 0;
   DWORD end = 0;
-  SendMessageW(window, EM_GETSEL, reinterpret_cast<WPARAM>(&start), reinterpret_cast<LPARAM>(&end));
+  answerof(window, EM_GETSEL, reinterpret_cast<WPARAM>(&start), reinterpret_cast<LPARAM>(&end));
   return end;
 }
 
@@ -103,8 +109,8 @@ std::string state() {
 
 std::string endsession() {
   HWND game = FindWindowW(L"Duskmarch", nullptr);
-  if (SendMessageW(game, WM_QUERYENDSESSION, 0, 0) == 0) return "false";
-  SendMessageW(game, WM_ENDSESSION, TRUE, 0);
+  if (answerof(game, WM_QUERYENDSESSION, 0, 0) == 0) return "false";
+  answerof(game, WM_ENDSESSION, TRUE, 0);
   return "true";
 }
 
