@@ -44,8 +44,8 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int how) {
     return *status;
   }
   const int status = play(how);
-  // A thread may still wait for a frozen device, voice or screen reader: the system's libraries must
-  // neither be taken down under it nor wait for it.
+  // A thread may still wait for a frozen device, voice or screen reader: the system's libraries
+  // must neither be taken down under it nor wait for it.
   TerminateProcess(GetCurrentProcess(), static_cast<UINT>(status));
   return status;
 }
