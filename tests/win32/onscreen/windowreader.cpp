@@ -159,6 +159,15 @@ std::string sentkeys() {
   return "[" + sent + "]";
 }
 
+// Sends a letter that no key stands behind, as braille keyboards do.
+std::string dictate(char letter) {
+  INPUT input{};
+  input.type = INPUT_KEYBOARD;
+  input.ki.wScan = static_cast<WORD>(letter);
+  input.ki.dwFlags = KEYEVENTF_UNICODE;
+  return SendInput(1, &input, sizeof input) == 1 ? "true" : "false";
+}
+
 }  // namespace
 
 int main() {
@@ -183,6 +192,8 @@ int main() {
       CloseHandle(held);
     } else if (command == "crash") {
       answer = crash();
+    } else if (command.rfind("dictate ", 0) == 0) {
+      answer = dictate(command.back());
     } else if (command == "sentkeys") {
       answer = sentkeys();
     } else {
