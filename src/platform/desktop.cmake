@@ -22,7 +22,7 @@ target_link_libraries(voice PUBLIC Threads::Threads
 
 file(GLOB qt_sources CONFIGURE_DEPENDS qt/*.cpp posix/*.cpp)
 list(FILTER qt_sources EXCLUDE REGEX "/(main|console|files)\\.cpp$")
-add_library(qt_desktop STATIC ${qt_sources})
+add_library(qt_desktop STATIC ${qt_sources} ${shared_sources})
 target_compile_definitions(qt_desktop PUBLIC QT_NO_KEYWORDS)  # "signals" is a word like any other
 target_link_libraries(qt_desktop PUBLIC frontend sound voice Qt6::Widgets Qt6::DBus)
 qt_add_resources(icon_sources ${CMAKE_SOURCE_DIR}/packaging/duskmarch.qrc

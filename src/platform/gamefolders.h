@@ -22,6 +22,11 @@ class GameFolders {
   // Another game that runs keeps its files there. Once it has ended, however it did, none does.
   bool inuse() const { return inuse_; }
 
+  // What each system does in its own way: whether files can be made in `folder`, and the game's
+  // folder among the player's data, which need not be there; empty for a player who has none.
+  static bool canwrite(const std::filesystem::path& folder);
+  static std::filesystem::path datafolder();
+
  private:
   void lock();
 

@@ -2,8 +2,6 @@
 
 #include <cerrno>
 #include <cstdlib>
-#include <system_error>
-#include <utility>
 
 #include <fcntl.h>
 #include <pwd.h>
@@ -15,10 +13,6 @@ namespace duskmarch {
 namespace {
 
 namespace fs = std::filesystem;
-
-bool canwrite(const fs::path& folder) {
-  return ::faccessat(AT_FDCWD, folder.c_str(), W_OK | X_OK, AT_EACCESS) == 0;
-}
 
 // What a variable names, where it holds a whole path.
 fs::path folderof(const char* variable) {
@@ -33,28 +27,16 @@ fs::path home() {
   return player == nullptr ? fs::path() : fs::path(player->pw_dir);
 }
 
-// Nothing for a player who has no home.
-fs::path datafolder() {
+}  // namespace
+
+bool GameFolders::canwrite(const fs::path& folder) {
+  return ::faccessat(AT_FDCWD, folder.c_str(), W_OK | X_OK, AT_EACCESS) == 0;
+}
+
+fs::path GameFolders::datafolder() {
   fs::path data = folderof("XDG_DATA_HOME");
   if (data.empty()) data = home() / ".local/share";
   return data.is_absolute() ? data / "duskmarch" : fs::path();
-}
-
-// With all folders that lead to it; what others may see in those that are new is left to the
-// system.
-bool made(const fs::path& folder) {
-  std::error_code error;
-  fs::create_directories(folder, error);
-  return !error && canwrite(folder);
-}
-
-}  // namespace
-
-GameFolders::GameFolders(fs::path program) : program_(std::move(program)), files_(program_) {
-  if (!canwrite(files_)) {
-    if (fs::path own = datafolder(); made(own)) files_ = std::move(own);
-  }
-  if (canwrite(files_)) lock();
 }
 
 // The folder itself is locked: so no file is left behind, and the lock ends with the process.

@@ -1,8 +1,6 @@
 #include "platform/gamefolders.h"
 
 #include <string>
-#include <system_error>
-#include <utility>
 
 #include <shlobj.h>
 #include <windows.h>
@@ -17,8 +15,10 @@ HANDLE systemhandle(std::intptr_t handle) {
   return reinterpret_cast<HANDLE>(handle);
 }
 
+}  // namespace
+
 // Rights alone do not tell: by trying. The file is gone again when it is closed.
-bool canwrite(const fs::path& folder) {
+bool GameFolders::canwrite(const fs::path& folder) {
   const fs::path trial =
       folder / (L"duskmarch." + std::to_wstring(GetCurrentProcessId()) + L".new");
   const HANDLE file = CreateFileW(trial.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
@@ -28,7 +28,7 @@ bool canwrite(const fs::path& folder) {
   return true;
 }
 
-fs::path datafolder() {
+fs::path GameFolders::datafolder() {
   PWSTR local = nullptr;
   fs::path folder;
   if (SHGetKnownFolderPath(FOLDERID_LocalAppData, 0, nullptr, &local) == S_OK) {
@@ -36,25 +36,6 @@ fs::path datafolder() {
   }
   CoTaskMemFree(local);
   return folder;
-}
-
-bool made(const fs::path& folder) {
-  std::error_code error;
-  fs::create_directories(folder, error);
-  return !error && canwrite(folder);
-}
-
-}  // namespace
-
-GameFolders::GameFolders(fs::path program) : program_(std::move(program)), files_(program_) {
-  bool writable = canwrite(files_);
-  if (!writable) {
-    if (fs::path own = datafolder(); made(own)) {
-      files_ = std::move(own);
-      writable = true;
-    }
-  }
-  if (writable) lock();
 }
 
 // A file that no other program may open; the system takes it away with the process.
