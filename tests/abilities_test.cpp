@@ -52,17 +52,6 @@ std::string asked(const std::string& answer) {
   return "input\tChoose direction\t" + std::string(question) + "\t" + answer;
 }
 
-TEST(Direction, IsAskedAloudOnlyByTheGamesOwnVoice) {
-  Player player;
-  arrange(player.game(), "Vesper 2,2 20 4");
-  EXPECT_EQ(player.during([&] { dooption(player.game(), "Move"); }),
-            (Player::Events{"voice\t" + std::string(question), asked(""), "voice\tCanceled."}));
-  player.game().speechmode = 1;
-  EXPECT_EQ(player.during([&] { dooption(player.game(), "Move"); }),
-            (Player::Events{asked(""), "title\tCanceled."}));
-  EXPECT_TRUE(player.game().list2.empty()) << "the common ending does not run";
-}
-
 TEST(Direction, IsOneLetterThatStaysOnTheMap) {
   const struct {
     std::string option, answer, ground;
@@ -83,17 +72,6 @@ TEST(Direction, IsOneLetterThatStaysOnTheMap) {
   }
 }
 
-TEST(Direction, LeavesARecordOfWhereTheHeroCameFrom) {
-  Player player;
-  arrange(player.game(), "Vesper 2,3 20 4");
-  player.answer("n");
-  dooption(player.game(), "Move");
-  player.answer("e");
-  dooption(player.game(), "Hook");
-  EXPECT_EQ(player.game().mob(1).startx, 2);
-  EXPECT_EQ(player.game().mob(1).starty, 3);
-}
-
 TEST(Dive, TellsWhatItIsFor) {
   Player player;
   arrangefor(player.game(), "Vesper 2,2 20 4", "Dive");
@@ -106,15 +84,6 @@ TEST(Dive, TellsWhatItIsFor) {
   EXPECT_EQ(player.spoken([&] { dooption(player.game(), "Dive"); }).back(),
             "Vesper dives East, out of a fight.");
   EXPECT_EQ(player.game().mob(1).engaged, 0) << "nobody holds her there";
-}
-
-TEST(CommonEnding, SettlesWhoIsHeldAndWhatIsLeftToDo) {
-  Player player;
-  arrangefor(player.game(), "Vesper 2,2 20 4 | Tony 2,1 16 3 plans[Fight]", "Kick");
-  player.answer("n");
-  dooption(player.game(), "Move");
-  EXPECT_EQ(player.game().mob(1).engaged, 1);
-  EXPECT_EQ(player.game().list2, std::vector<std::string>{"Target Tony"});
 }
 
 TEST(CommonEnding, SpeaksTheEmptyTextWhenNothingWasLoggedYet) {

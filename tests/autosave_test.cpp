@@ -87,16 +87,6 @@ TEST(Autosave, AVictoryIsKept) {
   EXPECT_NE(player.folder().read(kept), player.folder().read("game.sav"));
 }
 
-TEST(Autosave, AVictoryWithoutAPageIsKept) {
-  Player player;
-  begincampaign(player);
-  player.game().missionnumber = 2;
-  beginmission(player);
-  EXPECT_EQ(splitlines(player.folder().read(kept)).front(), " 2 ");
-  EXPECT_EQ(endmission(player, aliance::enemies).back(), "Back at the hideout.");
-  EXPECT_EQ(splitlines(player.folder().read(kept)).front(), " 3 ");
-}
-
 TEST(Autosave, TheTestMissionsHeroesAreNeverKept) {
   Player player;
   begincampaign(player);

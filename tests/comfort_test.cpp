@@ -45,13 +45,6 @@ TEST(Comfort, DescriptionsAreLeftOutUntilTheyAreWantedAgain) {
             std::string::npos);
 }
 
-TEST(Comfort, OrdersLoseTheirDescriptions) {
-  Player player;
-  perform(player, 2);
-  for (const int code : {key::escape, key::space, key::f2}) player.press(code);
-  EXPECT_EQ(player.spokenby(key::down), Spoken{"Move"});
-}
-
 TEST(Comfort, VoicesFollowEachOtherAndSayTheirNames) {
   const ProgramFolder folder;
   {

@@ -283,58 +283,6 @@ TEST(CuesOfAnEndOfTurn, StandTogetherJustBeforeTheLineThatSpeaksIt) {
   EXPECT_EQ(cuesof(Player::Events(after, events.end())), "");
 }
 
-TEST(CuesOfAFight, TellThatTheFirstTurnBeginsWhenTheStoryIsClosed) {
-  Player player;
-  for (const int code : {key::down, key::down, key::enter}) player.press(code);
-  EXPECT_EQ(cuesof(player.press(key::escape)), "heroes-turn 0 0");
-}
-
-TEST(SoundSettings, AreSaidWithAnExampleAndKept) {
-  Player player;
-  const std::string example = "cue\thit-enemy\t0\t0\t0";
-  EXPECT_EQ(player.press(key::f3), (Player::Events{example, "voice\tSounds 6."}));
-  EXPECT_EQ(player.press(key::f4), (Player::Events{example, "voice\tSounds 7."}));
-  EXPECT_EQ(player.press(key::f6), Player::Events{"voice\tAmbience 5."});
-  EXPECT_EQ(player.press(key::f5), Player::Events{"voice\tAmbience 4."});
-  for (int n = 0; n < 12; ++n) {
-    player.press(key::f4);
-    player.press(key::f5);
-  }
-  EXPECT_EQ(player.spokenby(key::f4), std::vector<std::string>{"Sounds 10."});
-  EXPECT_EQ(player.spokenby(key::f5), std::vector<std::string>{"Ambience 0."});
-  Player again({.folder = player.folder().path});
-  EXPECT_EQ(again.spokenby(key::f3), std::vector<std::string>{"Sounds 9."});
-  EXPECT_EQ(again.spokenby(key::f6), std::vector<std::string>{"Ambience 1."});
-}
-
-TEST(SoundPage, PlaysTheSoundOfTheLineThatOneIsOn) {
-  Player player;
-  player.press(key::down);
-  const auto opened = player.press(key::f7);
-  EXPECT_TRUE(
-      opened.at(0).starts_with("show\thelp\tStep: somebody takes a step.\\r\\nTarget chosen"))
-      << opened.at(0);
-  const auto f7 = [&] {
-    const auto events = player.press(key::f7);
-    return events.empty() ? "" : events.front();
-  };
-  EXPECT_EQ(f7(), "cue\tstep\t0\t0\t0");
-  for (const int code : {key::down, key::down, key::right, key::end, key::home}) player.press(code);
-  EXPECT_EQ(f7(), "cue\tdive\t0\t0\t0");
-  for (const int code : {key::left, key::left}) player.press(code);
-  EXPECT_EQ(f7(), "cue\ttarget-chosen\t0\t0\t0");
-  player.press(key::pagedown);
-  EXPECT_EQ(f7(), "ambience\tdock");
-  EXPECT_EQ(player.press(key::escape),
-            (Player::Events{"hide\thelp", "play\t3\t0\t0\t0\tsounds/Menu/previous.wav",
-                            "voice\tStart new game", "ambience\tmenus-and-hideout"}));
-  for (const int page : {key::f1, key::l}) {
-    player.press(page);
-    EXPECT_EQ(f7(), "") << "F7 is for this page alone";
-    player.press(key::escape);
-  }
-}
-
 TEST(SoundPage, StandsInTheManual) {
   std::istringstream lines(soundlist());
   std::ostringstream manual;
@@ -343,34 +291,6 @@ TEST(SoundPage, StandsInTheManual) {
   for (std::string line; std::getline(lines, line);)
     listed += line.substr(0, line.find('\r')) + "\n";
   EXPECT_TRUE(manual.str().ends_with("This is what it holds:\n\n" + listed));
-}
-
-// The last loop that was changed to; "-" where none was.
-std::string ambiencein(const Player::Events& events) {
-  std::string name = "-";
-  for (const std::string& event : events) {
-    if (event.starts_with("ambience\t")) name = event.substr(9);
-  }
-  return name;
-}
-
-TEST(Ambience, IsThatOfThePlaceAndToldWhenItChanges) {
-  Player player;
-  Game& game = player.game();
-  const auto press = [&](int code, int shift = 0) { return ambiencein(player.press(code, shift)); };
-  EXPECT_EQ(ambiencein(player.events()), "menus-and-hideout");
-  EXPECT_EQ(press(key::down), "-");
-  EXPECT_EQ(press(key::down), "-");
-  EXPECT_EQ(press(key::enter), "pool-hall");
-  EXPECT_EQ(press(key::escape), "-");
-  EXPECT_EQ(press(key::space), "-");
-  EXPECT_EQ(press(key::escape, modifier::shift), "menus-and-hideout");
-  EXPECT_EQ(press(key::l), "-");
-  EXPECT_EQ(press(key::enter), "pool-hall") << "L and Enter lead back into the mission";
-  for (Mob& mob : std::span(game.mobs).subspan(1)) mob.health = 0;
-  game.turnnumber = 99;
-  EXPECT_EQ(press(key::l), "-");
-  EXPECT_EQ(press(key::enter), "menus-and-hideout") << "the mission is over";
 }
 
 TEST(Ambience, IsNamedByEveryMissionAndThereIsNoneWithoutASetUp) {

@@ -14,11 +14,6 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
-// The test mission, its story page closed: the cursor on B 5 with both heroes.
-void startmission(Player& player) {
-  for (const int code : {key::down, key::down, key::enter, key::escape}) player.press(code);
-}
-
 TEST(StartUp, FillsTheBuffersAndWelcomes) {
   Player player;
   EXPECT_EQ(player.events(),
@@ -47,91 +42,6 @@ TEST(StartUp, ACrashIsReportedInTheLogOnce) {
   const auto inanhour = anhourago + std::chrono::hours(2);
   std::filesystem::last_write_time(folder.path / "crash.txt", inanhour);
   EXPECT_EQ(logafterstart(), once + once) << "a new crash";
-}
-
-TEST(Keyboard, ShiftEscapeAlsoReachesTheMainMenu) {
-  Player player;
-  startmission(player);
-  EXPECT_EQ(player.press(key::escape, modifier::shift),
-            (Lines{"voice\tMain menu", "voice\tExit the game", "ambience\tmenus-and-hideout"}));
-  EXPECT_EQ(player.game().menupos, 4);
-  EXPECT_EQ(player.game().cursormode, 0);
-}
-
-TEST(Keyboard, TheCursorStopsAtTheEdgeWithABump) {
-  Player player;
-  startmission(player);
-  EXPECT_EQ(player.press(key::down), Lines{"cue\tmap-edge\t-40\t-200\t0"});
-  EXPECT_EQ(player.spokenby(key::left), Lines{"A 5, "});
-  EXPECT_EQ(player.press(key::left), Lines{"cue\tmap-edge\t-80\t-200\t0"});
-  EXPECT_EQ(player.spokenby(key::up), Lines{"A 4, 1 here.  Henchman Joe.  There is a Table here."});
-}
-
-TEST(Keyboard, SpaceTogglesBetweenMapAndOptions) {
-  Player player;
-  startmission(player);
-  player.press(key::up);
-  EXPECT_EQ(player.spokenby(key::space), Lines{"Nightjar selected at location B 5."});
-  EXPECT_EQ(player.game().menuname, screen::options);
-  EXPECT_EQ(player.game().cursory, 5);
-  EXPECT_EQ(player.spokenby(key::space, modifier::ctrl),
-            Lines{"B 5, 2 here.  Nightjar and Steelwing.  "});
-  EXPECT_EQ(player.game().menuname, screen::map);
-}
-
-TEST(Keyboard, NSelectsTheNextHero) {
-  Player player;
-  startmission(player);
-  EXPECT_EQ(player.spokenby(key::n), Lines{"Steelwing selected at this location."});
-  EXPECT_EQ(player.spokenby(key::n), Lines{"Nightjar selected."});
-  player.press(key::up);
-  EXPECT_EQ(player.spokenby(key::n), Lines{"Steelwing selected at location B 5."});
-  player.game().mob(1).health = 0;
-  EXPECT_EQ(player.spokenby(key::n), Lines{"You only have Steelwing."});
-  command3_click(player.game());
-  EXPECT_EQ(player.game().command3, "Steelwing");
-}
-
-TEST(Keyboard, EndingTheTurnWantsShiftAlone) {
-  Player player;
-  EXPECT_EQ(player.spokenby(key::e),
-            Lines{"Hold Shift and press E to confirm ending your current turn."});
-  EXPECT_EQ(player.press(key::e, modifier::shift | modifier::ctrl), Lines{});
-  EXPECT_EQ(player.press(key::e, modifier::shift).back(), "focus\tsummary");
-}
-
-TEST(Keyboard, TheSummaryTakesTheKeysAndLeadsBackIntoTheMission) {
-  Player player;
-  startmission(player);
-  EXPECT_EQ(player.press(key::l),
-            (Lines{"show\tsummary\t-Mission 0 begins: Invade the mobster meeting at the pool "
-                   "hall.",
-                   "voice\t", "focus\tsummary"}));
-  EXPECT_EQ(player.press(key::n), Lines{});
-  EXPECT_EQ(player.press(key::ctrl), Lines{"voice\t"});
-  EXPECT_EQ(player.press(key::escape),
-            (Lines{"hide\tsummary", "play\t6\t0\t0\t0\tsounds/Menu/previous.wav",
-                   "voice\tB 5, 2 here.  Nightjar and Steelwing.  "}));
-  player.press(key::escape, modifier::shift);
-  player.press(key::l);
-  player.press(key::enter);
-  EXPECT_EQ(player.game().menuname, screen::options);
-}
-
-TEST(Keyboard, ClosingTheSummaryOutsideAMissionOnlyClosesIt) {
-  Player player;
-  EXPECT_EQ(player.press(key::l), (Lines{"show\tsummary\tText1", "voice\t", "focus\tsummary"}));
-  EXPECT_EQ(player.press(key::enter), (Lines{"hide\tsummary",
-                                             "play\t2\t0\t0\t0\tsounds/Menu/"
-                                             "previous.wav"}));
-  EXPECT_EQ(player.game().menuname, screen::mainmenu);
-}
-
-TEST(Keyboard, F9LoadsOnlyInTheMainMenuAndTheHideout) {
-  Player player;
-  EXPECT_EQ(player.spokenby(key::f9, modifier::alt), Lines{"File not found."});
-  player.game().menuname = screen::creation;
-  EXPECT_EQ(player.press(key::f9), Lines{});
 }
 
 // Presses keys while the game lets events through.
@@ -204,31 +114,6 @@ TEST(Keyboard, HoldLetsKeysThroughAndTheSyntheticKeysAreNobodys) {
   player.window.pending = [&] { keypress(player.game, {.keycode = key::ctrl}); };
   sayit(player.game, "New");
   EXPECT_EQ(player.replay.transcript.text().find("title\t\n"), std::string::npos);
-}
-
-TEST(SelfReading, PagesAndBoxesAreReadToAPlayerWithoutAReader) {
-  Player player({.reader = false});
-  for (const int code : {key::down, key::down}) player.press(code);
-  const auto started = player.spokenby(key::enter);
-  ASSERT_EQ(started.size(), 1u);
-  EXPECT_EQ(started[0].substr(0, 41), "Nightjar and Steelwing storm into a pool ");
-  const std::string paragraph = player.game().storylabel.substr(0, 150);
-  EXPECT_EQ(player.spokenby(key::up).at(0).substr(0, 30), paragraph.substr(0, 30));
-  EXPECT_EQ(player.spokenby(key::right), Lines{"i"});
-  EXPECT_EQ(player.press(key::down), Lines{"voice\tBlank."});  // the line after the paragraph
-  EXPECT_EQ(player.game().saidlines[1],
-            "Test mission where you control 2 established heroes "
-            "against many foes.");
-  player.press(key::escape);
-  player.press(key::space);
-  player.press(key::down);
-  player.answer("N");
-  EXPECT_EQ(player.spokenby(key::enter),
-            (Lines{"Enter N S E W to choose your direction, or leave blank to cancel.",
-                   "Choose direction", "N", "Nightjar moves to the North."}));
-  Player withreader;
-  for (const int code : {key::down, key::down}) withreader.press(code);
-  EXPECT_EQ(withreader.spokenby(key::enter), Lines{});
 }
 
 std::string scriptof(const CrashTrace& trace) {

@@ -55,39 +55,6 @@ TEST(Missions, BeginWithEverybodyInPlace) {
   }
 }
 
-// "$A$AHIS": the placeholders that a text holds, each once, in alphabetical order.
-std::string placeholders(std::string_view text) {
-  std::set<std::string> found;
-  for (auto at = text.find('$'); at != std::string_view::npos; at = text.find('$', at + 1)) {
-    auto end = at + 1;
-    while (end < text.size() && text[end] >= 'A' && text[end] <= 'Z') ++end;
-    found.emplace(text.substr(at, end - at));
-  }
-  return std::accumulate(found.begin(), found.end(), std::string());
-}
-
-TEST(Missions, StoriesNameTheirHeroesAndReadWellAloud) {
-  const std::vector<std::pair<Story, std::vector<std::string>>> stories{
-      {findmission(1)->start, {"", "$A$AHE$AHIS", "$A", "$A", "$A$AHE", "$A$AHE", "$A"}},
-      {findmission(1)->ending->page, {"", "$A$AHE", "$A$AHE"}},
-      {findmission(2)->start, {"$A$AHIM", "", "$A$AHIM", "$A$AHE", "", "$A"}},
-      {findmission(2)->ending->page, {"", "", "$A", "$A$AHE", "", "$A$AHIS", ""}}};
-  for (const auto& [story, expected] : stories) {
-    ASSERT_EQ(story.paragraphs.size(), expected.size());
-    for (std::size_t n = 0; n < expected.size(); ++n) {
-      const std::string_view text = story.paragraphs[n];
-      EXPECT_EQ(placeholders(text), expected[n]) << text;
-      EXPECT_TRUE(std::ranges::all_of(text, [](char c) { return c >= ' ' && c <= '~'; })) << text;
-      // A pronoun comes in lower case, so it starts no sentence.
-      EXPECT_FALSE(text.starts_with("$AH") || text.find(".  $AH") != text.npos) << text;
-      for (auto at = text.find(". "); at != text.npos; at = text.find(". ", at + 1)) {
-        EXPECT_EQ(text.substr(at, 3), ".  ") << text;
-      }
-    }
-    EXPECT_TRUE(story.paragraphs.back().ends_with(".  Press Escape to continue."));
-  }
-}
-
 TEST(Missions, OnlySomePagesEndWithLineBreaks) {
   struct Pages {
     int mission;

@@ -54,25 +54,6 @@ void begintestmission(Player& player) {
   player.press(key::escape);
 }
 
-TEST(PlayerKeys, TheCursorGoesFromEnemyToEnemyAndBack) {
-  Player player;
-  Game& game = player.game();
-  begintestmission(player);
-  game.mobcount = 0;
-  game.itemcount = 0;
-  arrange(game, "Vesper 2,2 20 4 | Al 3,1 9 1 | Joe 1,1 0 1 | Moe 3,1 9 1 | Tony 4,3 9 1");
-  game.selected = 1;
-  expectspoken(player, {{key::g, "C 1, 2 here.  Al and Moe.  "},
-                        {key::g, "D 3, 1 here.  Tony.  "},
-                        {key::g, "C 1, 2 here.  Al and Moe.  "},
-                        {key::g, "D 3, 1 here.  Tony.  ", modifier::shift},
-                        {key::b, "B 2, 1 here.  Vesper.  "},
-                        {key::g, "D 3, 1 here.  Tony.  ", modifier::shift}});
-  player.press(key::space);
-  EXPECT_EQ(player.spokenby(key::g), Spoken{"C 1, 2 here.  Al and Moe.  "});
-  EXPECT_EQ(game.menuname, screen::options);
-}
-
 // As "Move" does it: the move is taken, the log and the options follow.
 TEST(PlayerKeys, EnterWalksAsMoveDoes) {
   std::string states[2];
@@ -99,14 +80,6 @@ TEST(PlayerKeys, EnterWalksAsMoveDoes) {
   EXPECT_EQ(states[0], states[1]);
 }
 
-TEST(PlayerKeys, WithoutAMissionSaySo) {
-  Player player;
-  for (const int code : {key::h, key::i, key::t, key::d, key::g, key::b}) {
-    EXPECT_EQ(player.spokenby(code), Spoken{"No mission is under way."}) << code;
-  }
-  expectspoken(player, {{key::end, "Exit the game"}, {key::home, "Start new game"}});
-}
-
 TEST(PlayerKeys, LeaveCtrlAndAltToTheSystem) {
   Player player;
   begintestmission(player);
@@ -115,32 +88,6 @@ TEST(PlayerKeys, LeaveCtrlAndAltToTheSystem) {
     for (const int shift : {modifier::ctrl, modifier::alt, modifier::ctrl + modifier::shift}) {
       EXPECT_EQ(player.press(row.code, shift), Player::Events{}) << row.keys;
     }
-  }
-}
-
-TEST(PlayerKeys, TellOfVigilantesInTheHideout) {
-  Player player;
-  perform(player, 1);
-  EXPECT_EQ(player.spokenby(key::h), Spoken{"Choose a vigilante first."});
-  perform(player, 1);
-  EXPECT_EQ(player.spokenby(key::h),
-            Spoken{"PersonMan.  These bonuses give Blast 1, Combo 1, Dust 1, Smoke bombs 1, Dive "
-                   "1, Kick 1."});
-  player.press(key::end);
-  player.press(key::enter);
-  player.game().mob(1).upgradepoints = 1;
-  const std::string hero =
-      "PersonMan.  8 health, fighting skill 4.  Blast 1, Combo 1, Dust 1, Smoke bombs 1, Dive 1, "
-      "Kick 1.  1 point to spend.";
-  reach(player, 1);
-  EXPECT_EQ(player.spokenby(key::h), Spoken{hero});
-  player.press(key::enter);
-  EXPECT_EQ(player.spokenby(key::h), Spoken{hero});
-  player.press(key::end);
-  player.press(key::enter);
-  for (const int nobody : {2, 4}) {
-    reach(player, nobody);
-    EXPECT_EQ(player.spokenby(key::h), Spoken{"Choose a vigilante first."});
   }
 }
 

@@ -67,19 +67,6 @@ TEST_F(SavedGame, LoadedAndSavedAgainIsTheSameBytes) {
   }
 }
 
-TEST_F(SavedGame, LoadingLeadsToTheHideout) {
-  perform(player, 2);  // a mission
-  player.press(key::escape);
-  player.press(key::escape, modifier::shift);
-  expectspoken(player, {{key::f9, "File not found."}});
-  EXPECT_TRUE(player.game().missionunderway);
-  player.folder().write("Game.SAV", filed(campaign));
-  expectspoken(player, {{key::f9, "Game loaded.", modifier::alt},
-                        {key::enter, "Owl, the has 17 upgrade points.  Press Enter to spend them."},
-                        {key::up, "Begin mission 4."}});
-  EXPECT_FALSE(player.game().missionunderway);
-}
-
 TEST_F(SavedGame, AnEarlierOneIsKeptByWhetherItIsWhole) {
   player.folder().write("game.sav.bak", "oldest");
   const std::string whole = filed(campaign);
