@@ -5,7 +5,6 @@
 #include "platform/qt/application.h"
 #include "qtwindow.h"
 #include "shell/speech/keycodes.h"
-#include "shell/speech/speechsettings.h"
 
 namespace duskmarch {
 
@@ -41,11 +40,6 @@ TEST_F(QtWindowTest, WaitsWithKeysComingThrough) {
   QTimer::singleShot(0, &window, [this] { press(&window, Qt::Key_N); });
   window.wait(std::chrono::milliseconds(1));
   EXPECT_EQ(keys(), (Texts{"88", "78"}));
-}
-
-TEST_F(QtWindowTest, TheVoiceFallsSilentForAnotherEngine) {
-  switchengine(game);
-  EXPECT_EQ(said, (Texts{""}));
 }
 
 TEST(FrontEndTest, PlaysFromTheWelcomeToTheExit) {

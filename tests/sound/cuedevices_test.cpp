@@ -1,11 +1,10 @@
-// From the game's calls to the mixer's samples, and to the lines of a transcript.
+// From the game's calls to the mixer's samples.
 #include <cmath>
 #include <set>
 #include <span>
 
 #include "../harness.h"
 #include "audio/cuetable.h"
-#include "platform/replay/replayengines.h"
 #include "platform/sound/mixedsounds.h"
 #include "platform/sound/wavfile.h"
 
@@ -29,59 +28,12 @@ class CueDevices : public testing::Test {
   void play(std::span<const Cue> what) {
     cues.playcues(what, [&](std::string_view name) { return file(name); });
   }
-  // What is reported by playing it from a file of its name in the folder.
-  std::string problem(std::span<const Cue> what) {
-    try {
-      cues.playcues(
-          what, [&](std::string_view name) { return folder.path / (std::string(name) + ".wav"); });
-      return "";
-    } catch (const PlatformError& error) {
-      return error.what();
-    }
-  }
 
   ProgramFolder folder;
   std::shared_ptr<Mixer> mixer = std::make_shared<Mixer>();
   MixedSounds sounds{mixer};
   CueDevice& cues = sounds.cues();
 };
-
-TEST_F(CueDevices, CuesAreHeardAfterTheirDelaysFromOneMoment) {
-  render(77);
-  const Cue order[] = {cue("step", 120), cue("map-edge"), cue("hit-hero", 240)};
-  play(order);
-  const Samples heard = render(48000);
-  const std::pair<std::string_view, std::size_t> places[] = {
-      {"map-edge", 0}, {"step", 5760}, {"hit-hero", 11520}};
-  Samples wanted(48000);
-  for (const auto& [name, place] : places) {
-    const Samples sound = original(name);
-    for (std::size_t n = 0; n < sound.size(); ++n) wanted[place + n] += sound[n];
-  }
-  for (std::size_t n = 0; n < wanted.size(); ++n) {
-    ASSERT_NEAR(heard[2 * n], wanted[n], 1e-5) << n;
-    ASSERT_NEAR(heard[2 * n + 1], wanted[n], 1e-5) << n;
-  }
-}
-
-TEST_F(CueDevices, AFileIsReadOnceAndABadOneReportedOnce) {
-  folder.write(
-      "good.wav",
-      std::string(std::istreambuf_iterator(std::ifstream(file("step"), std::ios::binary).rdbuf()),
-                  {}));
-  folder.write("bad.wav", "RIFF");
-  const Cue all[] = {cue("bad"), cue("missing"), cue("good")};
-  const std::string reported = problem(all);
-  EXPECT_TRUE(reported.starts_with("bad: ")) << reported;
-  EXPECT_NE(reported.find("; missing: "), std::string::npos) << reported;
-  const Samples heard = render(20000);
-  EXPECT_NE(heard, Samples(40000));
-  EXPECT_EQ(problem({all, 2}), "");
-  EXPECT_EQ(render(20000), Samples(40000));
-  std::filesystem::remove(folder.path / "good.wav");
-  EXPECT_EQ(problem(all), "");
-  EXPECT_EQ(render(20000), heard);
-}
 
 TEST_F(CueDevices, AllFilesAreAskedForBeforeTheyAreWanted) {
   std::multiset<std::string> asked;
@@ -135,20 +87,6 @@ TEST_F(CueDevices, AStopEndsCuesAndLeavesAmbienceAndBuffersAlone) {
   EXPECT_EQ(render(1000), Samples(2000));
   const auto noloop = [&](std::string_view) { return folder.path / "none.wav"; };
   EXPECT_THROW(cues.setambience("none", 0, noloop), PlatformError);
-}
-
-TEST(ReplayCueLines, ACueAndAChangeOfAmbienceAreLines) {
-  Transcript transcript;
-  ReplaySound sound(transcript);
-  const Cue order[] = {{.name = "step", .pan = -60, .pitch = 50},
-                       {.name = "hit-hero", .pan = 20, .pitch = -100, .delay = 120}};
-  sound.cues().playcues(order, {});
-  sound.cues().stopcues();
-  for (const std::string_view name : {"", "dock", "dock", ""}) {
-    sound.cues().setambience(name, 0, {});
-  }
-  EXPECT_EQ(transcript.text(),
-            "cue\tstep\t-60\t50\t0\ncue\thit-hero\t20\t-100\t120\nambience\tdock\nambience\t\n");
 }
 
 }  // namespace

@@ -104,26 +104,6 @@ TEST(Mixing, SourcesAreHeardTogetherUntilTheyAreRemovedAndFreedOffTheAudioThread
   EXPECT_TRUE(watch.expired());
 }
 
-TEST(Mixing, ChangesArriveWhileAnotherThreadRenders) {
-  Mixer mixer;
-  std::atomic<bool> done = false;
-  std::thread audio([&] {
-    while (!done) render(mixer, 64);
-  });
-  const auto source = std::make_shared<Constant>(0.0F);
-  for (int n = 0; n < 2000; ++n) {
-    mixer.load(n % 50, mono(Samples(100, 0.25F)));
-    mixer.setvolume(n % 50, -n % 5000);
-    mixer.play(n % 50, n % 2 == 0);
-    n % 2 == 0 ? mixer.addsource(source) : mixer.removesource(*source);
-    if (n % 100 == 0) mixer.tidy();
-  }
-  for (int slot = 0; slot < 50; ++slot) mixer.load(slot, mono({0.5F}));
-  done = true;
-  audio.join();
-  EXPECT_EQ(render(mixer, 1), (Samples{0, 0}));
-}
-
 // While one goes round within a block, the order that it is played by may be replaced and freed.
 TEST(Mixing, ALoopShorterThanABlockIsChangedWhileItIsMixed) {
   Mixer mixer;

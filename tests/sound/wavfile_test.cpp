@@ -1,10 +1,11 @@
-// Which files are played as effects, and which are refused.
+// Which files are played as effects, which are refused, and when they are decoded.
 #include "platform/sound/wavfile.h"
 
 #include <bit>
 #include <limits>
 
 #include "../harness.h"
+#include "platform/sound/clipcache.h"
 #include "platform/sound/mixedsounds.h"
 
 namespace duskmarch {
@@ -152,6 +153,27 @@ TEST(WavFiles, TheGamesOwnNeedNoResampling) {
     EXPECT_EQ(clip.samples.front(), 0) << name;
     EXPECT_NEAR(clip.samples.back(), 0, 0.001) << name;
   }
+}
+
+TEST(ClipCache, DecodesAgainWhatHasChanged) {
+  const ProgramFolder folder;
+  const std::filesystem::path file = folder.path / "sounds/menu/arrows.wav";
+  ClipCache clips;
+  const auto arrows = clips.clip(file);
+  EXPECT_EQ(clips.clip(file), arrows);
+  const auto time = std::filesystem::last_write_time(file);
+  std::filesystem::last_write_time(file, time + std::chrono::seconds(1));
+  const auto later = clips.clip(file);
+  EXPECT_NE(later, arrows);
+  std::filesystem::remove(file);
+  std::filesystem::copy_file(folder.path / "sounds/menu/enter.wav", file);
+  std::filesystem::last_write_time(file, time + std::chrono::seconds(1));
+  EXPECT_NE(clips.clip(file)->samples.size(), arrows->samples.size());
+  std::filesystem::remove(file);
+  EXPECT_THROW(clips.clip(file), PlatformError);
+  folder.write("sounds/menu/arrows.wav", "no sound");
+  EXPECT_THROW(clips.clip(file), PlatformError);
+  EXPECT_THROW(clips.clip(file), PlatformError);
 }
 
 }  // namespace

@@ -2,7 +2,6 @@
 #include "platform/voice/steadyspeech.h"
 
 #include <algorithm>
-#include <atomic>
 #include <functional>
 
 #include <gtest/gtest.h>
@@ -14,7 +13,6 @@
 namespace duskmarch {
 namespace {
 
-using namespace std::chrono_literals;
 using Texts = std::vector<std::string>;
 
 // What was said, by whom, in order.
@@ -50,91 +48,6 @@ class RecordedVoice : public Voice {
   Record& record_;
 };
 
-// An engine that does what the test says.
-struct Engine {
-  std::atomic<bool> exists = true;
-  std::atomic<bool> stuck = false;
-  std::atomic<bool> lost = false;
-};
-
-class RecordedEngine : public LosableSpeech {
- public:
-  RecordedEngine(Engine& engine, Record& record) : engine_(engine), record_(record) {}
-  void saystring(std::string_view text) override {
-    if (engine_.stuck) unsaid_.emplace_back(text);
-    if (!engine_.stuck) record_.add("engine: ", text);
-  }
-  void interrupt() override { record_.add("engine interrupted", ""); }
-  std::optional<Clock::time_point> stucksince() override {
-    if (!engine_.stuck) return std::nullopt;
-    return Clock::now() - 1h;
-  }
-  Texts giveup() override {
-    engine_.lost = true;
-    return std::exchange(unsaid_, {});
-  }
-  bool lost() override { return engine_.lost; }
-
- private:
-  Engine& engine_;
-  Record& record_;
-  Texts unsaid_;
-};
-
-class SteadySpeechTest : public testing::Test {
- protected:
-  std::unique_ptr<SteadySpeech> start(std::shared_ptr<Voice> voice) {
-    const auto make = [this]() -> std::unique_ptr<LosableSpeech> {
-      if (!engine_.exists) throw PlatformError("missing");
-      return std::make_unique<RecordedEngine>(engine_, record_);
-    };
-    const auto log = [](std::string_view line) { ADD_FAILURE() << line; };
-    return std::make_unique<SteadySpeech>(make, std::move(voice), log, 1ms);
-  }
-  std::shared_ptr<Voice> voice() { return std::make_shared<RecordedVoice>(record_); }
-
-  Engine engine_;
-  Record record_;
-};
-
-TEST_F(SteadySpeechTest, AMissingEngineIsToldOnceAndUsedWhenItComes) {
-  engine_.exists = false;
-  const auto speech = start(voice());
-  EXPECT_FALSE(speech->there());
-  speech->interrupt();  // of nothing
-  for (const char* text : {"One.", "", "Two."}) speech->saystring(text);
-  speech->interrupt();
-  EXPECT_EQ(record_.taken(),
-            (Texts{"voice: Speech service lost.  One.", "voice: Two.", "voice hushed"}));
-  engine_.exists = true;
-  EXPECT_TRUE(speech->there());
-  speech->saystring("Three.");
-  speech->interrupt();
-  EXPECT_EQ(record_.taken(), (Texts{"engine: Three.", "engine interrupted"}));
-}
-
-TEST_F(SteadySpeechTest, WhatAnEngineDoesNotSayTheVoiceDoes) {
-  const auto speech = start(voice());
-  for (const char* outage : {"first", "second"}) {
-    SCOPED_TRACE(outage);
-    engine_.stuck = true;
-    speech->saystring("One.");
-    EXPECT_TRUE(eventually([&] { return !record_.texts().empty(); }));
-    speech->saystring("Two.");
-    EXPECT_EQ(record_.taken(), (Texts{"voice: Speech service lost.  One.", "voice: Two."}));
-    EXPECT_FALSE(speech->there());
-    engine_.stuck = engine_.lost = false;
-    EXPECT_TRUE(speech->there());
-    speech->saystring("Three.");
-    EXPECT_EQ(record_.taken(), Texts{"engine: Three."});
-  }
-}
-
-TEST_F(SteadySpeechTest, WithoutAnyVoiceTheTextIsAnError) {
-  engine_.exists = false;
-  EXPECT_THROW(start(nullptr)->saystring("One."), PlatformError);
-}
-
 // The speech service itself, and its stand-in.
 class SteadyServiceTest : public testing::Test {
  protected:
@@ -160,6 +73,21 @@ class SteadyServiceTest : public testing::Test {
   FakeService service_;
   Record record_;
 };
+
+TEST_F(SteadyServiceTest, AMissingOneIsToldOnceAndUsedWhenItComes) {
+  service_.kill();
+  const auto speech = start(std::make_shared<RecordedVoice>(record_));
+  EXPECT_FALSE(speech->there());
+  speech->interrupt();  // of nothing
+  for (const char* text : {"One.", "", "Two."}) speech->saystring(text);
+  speech->interrupt();
+  EXPECT_EQ(record_.taken(),
+            (Texts{"voice: Speech service lost.  One.", "voice: Two.", "voice hushed"}));
+  EXPECT_THROW(start(nullptr)->saystring("One."), PlatformError);
+  service_.start();
+  EXPECT_TRUE(speech->there());
+  EXPECT_TRUE(spokenbyservice(*speech, "Three."));
+}
 
 struct Fault {
   const char* name;
