@@ -16,27 +16,23 @@ namespace {
 
 constexpr auto question = "Enter N S E W to choose your direction, or leave blank to cancel.";
 
-class Abilities : public testing::TestWithParam<Case> {};
-
-TEST_P(Abilities, ChangeAndTellWhatTheirRuleSays) {
-  const Case& c = GetParam();
-  SCOPED_TRACE(c.place);
-  Player player;
-  const auto [option, answer] = readorder(c.what);
-  arrangefor(player.game(), c.before, option);
-  player.answer(answer);
-  const auto spoken = player.spoken([&] { dooption(player.game(), option); });
-  std::string log;
-  for (const std::string& line : player.game().list1) log = line + (log.empty() ? "" : " / ") + log;
-  EXPECT_EQ(log, c.told);
-  EXPECT_EQ(described(player.game()), c.after);
-  if (!log.empty()) {
-    EXPECT_EQ(spoken.back(), player.game().list1.front());
+TEST(Abilities, ChangeAndTellWhatTheirRuleSays) {
+  for (const Case& c : readcases("abilities.txt")) {
+    SCOPED_TRACE(c.place);
+    Player player;
+    const auto [option, answer] = readorder(c.what);
+    arrangefor(player.game(), c.before, option);
+    player.answer(answer);
+    const auto spoken = player.spoken([&] { dooption(player.game(), option); });
+    std::string log;
+    for (const std::string& line : player.game().list1) {
+      log = line + (log.empty() ? "" : " / ") + log;
+    }
+    EXPECT_EQ(log, c.told);
+    EXPECT_EQ(described(player.game()), c.after);
+    EXPECT_TRUE(log.empty() || spoken.back() == player.game().list1.front());
   }
 }
-
-INSTANTIATE_TEST_SUITE_P(Options, Abilities, testing::ValuesIn(readcases("abilities.txt")),
-                         nameofcase);
 
 TEST(Abilities, HaveACaseForEachOrder) {
   std::set<std::string_view> tried;

@@ -13,17 +13,11 @@ namespace duskmarch {
 
 struct Case {
   std::string place;  // "abilities.txt line 12", for whoever looks for a case that fails
-  int line = 0;
   std::string what;
   std::string before;
   std::string told;
   std::string after;
 };
-
-// What a test is called that has one of them as its parameter.
-inline std::string nameofcase(const testing::TestParamInfo<Case>& info) {
-  return "Line" + std::to_string(info.param.line);
-}
 
 inline std::vector<Case> readcases(const std::string& file) {
   std::vector<Case> cases;
@@ -39,7 +33,7 @@ inline std::vector<Case> readcases(const std::string& file) {
     }
     const auto colon = first.find(": ");
     const bool nothing = colon == std::string::npos;
-    cases.push_back({place, number, nothing ? "" : first.substr(0, colon),
+    cases.push_back({place, nothing ? "" : first.substr(0, colon),
                      nothing ? first : first.substr(colon + 2), told == "  -" ? "" : told.substr(2),
                      after.substr(2)});
     number += 2;

@@ -270,19 +270,6 @@ TEST(CuesOfAnEndOfTurn, MoveTogetherWhereThereAreManyAndStepsGoFirst) {
   EXPECT_LE(lastdelay(events), 1800);
 }
 
-TEST(CuesOfAnEndOfTurn, StandTogetherJustBeforeTheLineThatSpeaksIt) {
-  Player player;
-  arrange(player.game(), "Vesper 1,1 20 4 | Tony 1,3 16 3 | Moe 4,1 16 3");
-  const auto events = player.during([&] { endturn(player.game()); });
-  const auto first = std::ranges::find_if(events, [](auto& e) { return e.starts_with("cue\t"); });
-  const auto after =
-      std::find_if(first, events.end(), [](auto& e) { return !e.starts_with("cue\t"); });
-  EXPECT_EQ(after - first, 3);
-  ASSERT_NE(after, events.end());
-  EXPECT_TRUE(after->starts_with("voice\t  -End of turn number 1.")) << *after;
-  EXPECT_EQ(cuesof(Player::Events(after, events.end())), "");
-}
-
 TEST(SoundPage, StandsInTheManual) {
   std::istringstream lines(soundlist());
   std::ostringstream manual;

@@ -87,26 +87,5 @@ TEST(EndOfTurn, NewcomersAreAnnounced) {
   EXPECT_EQ(arrivalof(mobtype::gunman, 0), comes + ".");
 }
 
-TEST(EndOfTurn, TheFirstConsciousHeroGoesOnWithAFreshTurn) {
-  Player player;
-  Game& game = player.game();
-  arrange(game, "Vesper 1,1 0 4 | Nora 2,2 20 4 | Bly 1,1 20 4 | Tony 4,3 9 1 [Netted][Netted]");
-  game.selected = 3;
-  game.mob(2).hasmoved = game.mob(2).hasacted = 1;
-  game.summarylabel.lines = {"-Mission 1 begins: "};
-  game.list1 = {"earlier"};
-  const auto events = player.during([&] { endturn(game); });
-  EXPECT_EQ(game.list2, std::vector<std::string>{"Move"});
-  EXPECT_EQ(game.selected, 2);
-  EXPECT_EQ(game.mob(2).hasacted, 0);
-  EXPECT_EQ(game.list1, (std::deque<std::string>{"Tony struggles to free himself from the net.",
-                                                 "-End of turn number 1."}));
-  ASSERT_GE(events.size(), 2U);
-  EXPECT_EQ(events[events.size() - 2],
-            "show\tsummary\tTony struggles to free himself from the net.\\r\\n"
-            "-End of turn number 1.\\r\\n-Mission 1 begins: ");
-  EXPECT_EQ(events.back(), "focus\tsummary");
-}
-
 }  // namespace
 }  // namespace duskmarch

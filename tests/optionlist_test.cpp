@@ -1,7 +1,6 @@
 // What a hero is offered, and what an enemy makes of the same options.
 #include "heroturn/optionlist.h"
 
-#include <source_location>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -38,64 +37,52 @@ struct Case {
   std::string ground;
   std::string abilities;  // one use each
   std::string options;
-  std::source_location place = std::source_location::current();
 };
 
-std::string nameofcase(const testing::TestParamInfo<Case>& info) {
-  return "Line" + std::to_string(info.param.place.line());
-}
-
-void PrintTo(const Case& c, std::ostream* out) {
-  *out << c.abilities << " with " << c.ground;
-}
-
-class HeroOptions : public testing::TestWithParam<Case> {};
-
-TEST_P(HeroOptions, AreWhatTheHeroCanDoNow) {
-  Player player;
-  arrangefor(player.game(), GetParam().ground, 1, GetParam().abilities);
-  listoptions(player.game(), 0);
-  EXPECT_EQ(joined(player.game().list2), GetParam().options);
-}
-
 const std::vector<Case> herocases{
-    Case{"Vesper 2,2 20 4", "", "Move"},                               //
-    Case{"Vesper 2,2 20 4 moved", "", ""},                             //
-    Case{"Vesper 2,2 20 4 engaged", "Dive", "Dive"},                   //
-    Case{"Vesper 2,2 20 4 [Netted][Dazed] | Al 2,2 9 3", "Dive", ""},  //
-    Case{"Vesper 2,2 0 4 | Al 2,2 9 3", "Dive", ""},                   //
-    Case{"Vesper 2,2 20 4 acted t2 plans[Fight] | Al 2,2 9 3 | Table 2,2 1", "Dive",
-         "Move|Target Al|Don't target anyone"},
+    {"Vesper 2,2 20 4", "", "Move"},
+    {"Vesper 2,2 20 4 moved", "", ""},
+    {"Vesper 2,2 20 4 engaged", "Dive", "Dive"},
+    {"Vesper 2,2 20 4 [Netted][Dazed] | Al 2,2 9 3", "Dive", ""},
+    {"Vesper 2,2 0 4 | Al 2,2 9 3", "Dive", ""},
+    {"Vesper 2,2 20 4 acted t2 plans[Fight] | Al 2,2 9 3 | Table 2,2 1", "Dive",
+     "Move|Target Al|Don't target anyone"},
     // Whom she fights already is offered again only while he has no plans.
-    Case{"Vesper 2,2 20 4 t2 | Al 2,2 9 3 plans[Fight] | Bo 2,2 9 3 plans[Fight] | Cy 1,2 9 3", "",
-         "Move|Target Bo"},
+    {"Vesper 2,2 20 4 t2 | Al 2,2 9 3 plans[Fight] | Bo 2,2 9 3 plans[Fight] | Cy 1,2 9 3", "",
+     "Move|Target Bo"},
     // Held, and without a way out of her own: the foe on her tile is offered whatever he plans.
-    Case{"Vesper 2,2 20 4 engaged t2 | Al 2,2 9 3 plans[Fight]", "Kick,Pin,Shield",
-         "Target Al|Shield"},
-    Case{"Vesper 2,2 2 4 engaged t2 | Al 2,2 9 3 plans[Fight]", "Headbutt", "Target Al"},
-    Case{"Vesper 2,2 20 4 engaged t2 | Al 2,2 9 3 plans[Fight]", "Dive", "Dive"},
-    Case{"Vesper 2,2 20 4 engaged acted t2 | Al 2,2 9 3 plans[Fight]", "Combo", ""},
-    Case{"Vesper 2,1 20 4 engaged t2 | Al 2,1 9 3 plans[Fight]", "Pin", "Pin Al"},
-    Case{"Vesper 2,2 20 4 engaged t2 plans[Fight] | Al 2,2 9 3 plans[Fight]", "",
-         "Don't target anyone"},
+    {"Vesper 2,2 20 4 engaged t2 | Al 2,2 9 3 plans[Fight]", "Kick,Pin,Shield", "Target Al|Shield"},
+    {"Vesper 2,2 2 4 engaged t2 | Al 2,2 9 3 plans[Fight]", "Headbutt", "Target Al"},
+    {"Vesper 2,2 20 4 engaged t2 | Al 2,2 9 3 plans[Fight]", "Dive", "Dive"},
+    {"Vesper 2,2 20 4 engaged acted t2 | Al 2,2 9 3 plans[Fight]", "Combo", ""},
+    {"Vesper 2,1 20 4 engaged t2 | Al 2,1 9 3 plans[Fight]", "Pin", "Pin Al"},
+    {"Vesper 2,2 20 4 engaged t2 plans[Fight] | Al 2,2 9 3 plans[Fight]", "",
+     "Don't target anyone"},
     // In the order of her abilities; names count to the letter.
-    Case{"Vesper 2,2 20 4", "Second wind,Hook,Smoke bombs,dive,Flight,Dive,Shield",
-         "Move|Second wind|Hook|Smoke bombs|Dive|Shield"},
-    Case{housed, "Throw",
-         "Move|Target Al|Throw Al|Throw table|Throw chair|Throw table|Flip table|Flip table"},
-    Case{crowd, "Throw", "Target Al|Throw Al"},  //
-    Case{crowd, "Headbutt,Combo,Dust", "Target Al|Headbutt Al|Combo Al|Dust Al"},
-    Case{"Vesper 2,2 2 4 | Al 2,2 9 3", "Headbutt", "Move|Target Al"},
-    Case{crowd, "Kick", "Target Al|Kick Bo|Kick Cy"},
-    Case{crowd, "Pin", "Target Al|Pin Bo|Pin Di|Pin Ed|Pin Flo"},
-    Case{crowd, "Blast", "Target Al|Blast Bo|Blast Cy|Blast Di|Blast Ed"},
-    Case{crowd, "Bolas", "Target Al|Bolas Bo|Bolas Cy|Bolas Di|Bolas Ed"},
-    Case{crowd, "Net", "Target Al|Net Bo|Net Cy|Net Di|Net Ed|Net Flo"},
-    Case{"Vesper 1,1 20 4 | Al 4,1 9 3 | Bo 4,2 9 3", "Net", "Move|Net Al"},
-    Case{crowd, "Grapnel", "Target Al|Grapnel Bo|Grapnel Cy|Grapnel Ed"},
-    Case{crowd, "Heal", "Target Al|Heal Vesper|Heal Nora"}};
+    {"Vesper 2,2 20 4", "Second wind,Hook,Smoke bombs,dive,Flight,Dive,Shield",
+     "Move|Second wind|Hook|Smoke bombs|Dive|Shield"},
+    {housed, "Throw",
+     "Move|Target Al|Throw Al|Throw table|Throw chair|Throw table|Flip table|Flip table"},
+    {crowd, "Throw", "Target Al|Throw Al"},
+    {crowd, "Headbutt,Combo,Dust", "Target Al|Headbutt Al|Combo Al|Dust Al"},
+    {"Vesper 2,2 2 4 | Al 2,2 9 3", "Headbutt", "Move|Target Al"},
+    {crowd, "Kick", "Target Al|Kick Bo|Kick Cy"},
+    {crowd, "Pin", "Target Al|Pin Bo|Pin Di|Pin Ed|Pin Flo"},
+    {crowd, "Blast", "Target Al|Blast Bo|Blast Cy|Blast Di|Blast Ed"},
+    {crowd, "Bolas", "Target Al|Bolas Bo|Bolas Cy|Bolas Di|Bolas Ed"},
+    {crowd, "Net", "Target Al|Net Bo|Net Cy|Net Di|Net Ed|Net Flo"},
+    {"Vesper 1,1 20 4 | Al 4,1 9 3 | Bo 4,2 9 3", "Net", "Move|Net Al"},
+    {crowd, "Grapnel", "Target Al|Grapnel Bo|Grapnel Cy|Grapnel Ed"},
+    {crowd, "Heal", "Target Al|Heal Vesper|Heal Nora"}};
 
-INSTANTIATE_TEST_SUITE_P(Lists, HeroOptions, testing::ValuesIn(herocases), nameofcase);
+TEST(HeroOptions, AreWhatTheHeroCanDoNow) {
+  for (const auto& [ground, abilities, options] : herocases) {
+    Player player;
+    arrangefor(player.game(), ground, 1, abilities);
+    listoptions(player.game(), 0);
+    EXPECT_EQ(joined(player.game().list2), options) << abilities << " with " << ground;
+  }
+}
 
 TEST(HeroOptions, LeaveOutWhatIsUsedUp) {
   Player player;
@@ -106,34 +93,31 @@ TEST(HeroOptions, LeaveOutWhatIsUsedUp) {
   EXPECT_EQ(joined(player.game().list2), "Move");
 }
 
-class EnemyEntries : public testing::TestWithParam<Case> {};
-
-TEST_P(EnemyEntries, AreTheOptionsByDirection) {
-  Player player;
-  Game& game = player.game();
-  arrangefor(game, GetParam().ground, 1, GetParam().abilities);
-  listentries(game, 1);
-  EXPECT_EQ(joined(game.list3), GetParam().options);
-}
-
 const std::vector<Case> enemycases{
     // Each kick may go wherever heroes stand.
-    Case{"Al 2,2 9 3 | Vesper 1,2 20 4 | Nora 2,1 9 4 | Bly 2,3 0 4", "Kick",
-         "[Kick West]|[Kick North]|[Kick West]|[Kick North]"},
+    {"Al 2,2 9 3 | Vesper 1,2 20 4 | Nora 2,1 9 4 | Bly 2,3 0 4", "Kick",
+     "[Kick West]|[Kick North]|[Kick West]|[Kick North]"},
     // By the edge of the map first, then once more towards whom it would hit.
-    Case{"Al 1,1 9 3 | Vesper 1,1 20 4 | Nora 2,1 9 4", "Throw",
-         "[Throw Vesper East]|[Throw Vesper South]|[Throw Vesper East]"},
-    Case{"Al 2,2 9 3 | Vesper 2,1 20 4 | Nora 4,2 9 4 | Bly 1,2 9 4 | Table 2,2 1", "Throw",
-         "[Throw table North]|[Throw table West]"},
-    Case{"Al 2,2 9 3 | Vesper 4,2 20 4 | Nora 2,3 9 4 | Bly 2,1 0 4 | Chair 2,2 1", "Throw",
-         "[Throw chair East]|[Throw chair South]"},
-    Case{"Al 2,2 9 3 | Vesper 2,2 20 4 | Nora 2,3 9 4 | Table 2,2 1",
-         "Dive,Shield,Smoke bombs,Hook,Second wind,Headbutt,Combo,Dust,Pin,Blast,Grapnel,"
-         "Bolas,Heal,Net",
-         ""},
-    Case{"Al 2,2 9 3 [Dazed] | Vesper 1,2 20 4", "Kick", ""}};
+    {"Al 1,1 9 3 | Vesper 1,1 20 4 | Nora 2,1 9 4", "Throw",
+     "[Throw Vesper East]|[Throw Vesper South]|[Throw Vesper East]"},
+    {"Al 2,2 9 3 | Vesper 2,1 20 4 | Nora 4,2 9 4 | Bly 1,2 9 4 | Table 2,2 1", "Throw",
+     "[Throw table North]|[Throw table West]"},
+    {"Al 2,2 9 3 | Vesper 4,2 20 4 | Nora 2,3 9 4 | Bly 2,1 0 4 | Chair 2,2 1", "Throw",
+     "[Throw chair East]|[Throw chair South]"},
+    {"Al 2,2 9 3 | Vesper 2,2 20 4 | Nora 2,3 9 4 | Table 2,2 1",
+     "Dive,Shield,Smoke bombs,Hook,Second wind,Headbutt,Combo,Dust,Pin,Blast,Grapnel,"
+     "Bolas,Heal,Net",
+     ""},
+    {"Al 2,2 9 3 [Dazed] | Vesper 1,2 20 4", "Kick", ""}};
 
-INSTANTIATE_TEST_SUITE_P(Lists, EnemyEntries, testing::ValuesIn(enemycases), nameofcase);
+TEST(EnemyEntries, AreTheOptionsByDirection) {
+  for (const auto& [ground, abilities, options] : enemycases) {
+    Player player;
+    arrangefor(player.game(), ground, 1, abilities);
+    listentries(player.game(), 1);
+    EXPECT_EQ(joined(player.game().list3), options) << abilities << " with " << ground;
+  }
+}
 
 }  // namespace
 }  // namespace duskmarch
