@@ -158,12 +158,6 @@ std::string whoisselected(Player& player) {
   return cursor + "|" + joined(player.spokenby(key::space));
 }
 
-std::string ordersinanet(Player& player) {
-  arrange(player.game(), "Vesper 2,2 20 4 [Netted][Pinned]");
-  listoptions(player.game(), 0);
-  return joined(player.game().list2);
-}
-
 std::string anewcomersfight(Player& player) {
   Game& game = player.game();
   arrange(game, "Vesper 2,2 20 4 | Tony 2,2 16 3");
@@ -273,7 +267,6 @@ TEST(AsHeard, IsMeant) {
        "Nightjar has no upgrade points to spend.|Begin mission 1."},
       {"who is selected", whoisselected,
        "B 1, 1 here.  Muscles.  There is a Chair here.|Lynx selected at location E 3."},
-      {"orders in a net", ordersinanet, "Move"},
       {"a newcomer's fight", anewcomersfight,
        "Tony comes. Location B, 2 and engaged Vesper in a fight.|Move|Target Tony|"},
       {"plans of who is kicked and who is hit", plansofthekickedandthehit,

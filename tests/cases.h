@@ -19,24 +19,25 @@ struct Case {
   std::string after;
 };
 
-inline std::vector<Case> readcases(const std::string& file) {
+// In a file without the ground after, `lines` is 2.
+inline std::vector<Case> readcases(const std::string& file, int lines = 3) {
   std::vector<Case> cases;
-  std::ifstream lines(TEST_FOLDER "/" + file);
+  std::ifstream text(TEST_FOLDER "/" + file);
   int number = 1;
-  for (std::string first, told, after; std::getline(lines, first); ++number) {
+  for (std::string first, told, after; std::getline(text, first); ++number) {
     if (first.empty() || first.starts_with('#')) continue;
     const std::string place = file + " line " + std::to_string(number);
-    std::getline(lines, told);
-    std::getline(lines, after);
-    if (!told.starts_with("  ") || !after.starts_with("  ")) {
-      throw std::invalid_argument(place + ": two lines that begin with two spaces belong to it");
+    std::getline(text, told);
+    if (lines == 3) std::getline(text, after);
+    if (!told.starts_with("  ") || (lines == 3 && !after.starts_with("  "))) {
+      throw std::invalid_argument(place + ": lines that begin with two spaces belong to it");
     }
     const auto colon = first.find(": ");
     const bool nothing = colon == std::string::npos;
     cases.push_back({place, nothing ? "" : first.substr(0, colon),
                      nothing ? first : first.substr(colon + 2), told == "  -" ? "" : told.substr(2),
-                     after.substr(2)});
-    number += 2;
+                     lines == 3 ? after.substr(2) : ""});
+    number += lines - 1;
   }
   EXPECT_FALSE(cases.empty()) << file;
   return cases;

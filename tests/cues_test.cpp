@@ -2,7 +2,6 @@
 #include "audio/cues.h"
 
 #include <functional>
-#include <set>
 
 #include "audio/soundlist.h"
 #include "draws.h"
@@ -199,17 +198,6 @@ TEST(CuesOfTheMap, ToneComesUnderTheWordsAndABumpAtTheEdge) {
     player.press(key::left);
     EXPECT_EQ(player.press(key::left), Player::Events{"cue\tmap-edge\t-80\t0\t0"});
     EXPECT_EQ(cuesof(player.press(key::m)), "") << "other keys have none";
-  }
-}
-
-TEST(CuesOfAFight, AreReachedEveryOne) {
-  std::string all = "victory defeat map-edge ";  // by the tests of missions and the one above
-  for (const Scene& scene : scenes()) all += heardof(scene) + " ";
-  for (const CursorScene& scene : cursorscenes) all += scene.heard + " ";
-  std::istringstream words(all);
-  const std::set<std::string> reached{std::istream_iterator<std::string>(words), {}};
-  for (const CueRow& row : cuetable()) {
-    EXPECT_TRUE(reached.contains(std::string(row.name))) << row.name;
   }
 }
 

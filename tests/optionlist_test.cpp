@@ -41,6 +41,7 @@ struct Case {
 
 const std::vector<Case> herocases{
     {"Vesper 2,2 20 4", "", "Move"},
+    {"Vesper 2,2 20 4 [Netted][Pinned]", "", "Move"},
     {"Vesper 2,2 20 4 moved", "", ""},
     {"Vesper 2,2 20 4 engaged", "Dive", "Dive"},
     {"Vesper 2,2 20 4 [Netted][Dazed] | Al 2,2 9 3", "Dive", ""},

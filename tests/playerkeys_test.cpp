@@ -15,7 +15,7 @@ int codeof(const std::string& name) {
 }
 
 TEST(PlayerKeys, TellInAMission) {
-  for (const Case& c : readcases("playerkeys.txt")) {
+  for (const Case& c : readcases("playerkeys.txt", 2)) {
     Player player;
     Game& game = player.game();
     arrange(game, c.before);
@@ -25,7 +25,7 @@ TEST(PlayerKeys, TellInAMission) {
     game.menuname = screen::map;
     game.cursormode = 1;
     game.cursorx = game.cursory = 2;
-    EXPECT_EQ(player.spokenby(codeof(c.what)), Spoken{c.told}) << c.after;
+    EXPECT_EQ(player.spokenby(codeof(c.what)), Spoken{c.told}) << c.place;
   }
 }
 

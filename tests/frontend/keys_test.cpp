@@ -1,5 +1,4 @@
-// What every window does alike with keys, carets and typed texts.
-#include <optional>
+// What every window does alike with keys and typed texts.
 #include <string>
 #include <tuple>
 #include <vector>
@@ -8,7 +7,6 @@
 
 #include "platform/frontend/heldkeys.h"
 #include "platform/frontend/keyplaces.h"
-#include "platform/frontend/reading.h"
 #include "platform/frontend/typed.h"
 
 namespace duskmarch {
@@ -68,20 +66,6 @@ TEST(Difference, IsWhatWasTypedOrTakenAway) {
   EXPECT_EQ(difference("aé", "a©"), "©");
   EXPECT_EQ(difference("é", "©"), "©");  // which share their last
   EXPECT_EQ(difference("same", "same"), "");
-}
-
-TEST(Reading, GoesByLinesOrByCharacters) {
-  const CaretPlace start{0, "One two", 0};
-  const CaretPlace second{0, "One two", 4};
-  const CaretPlace third{1, "", 0};
-  const auto plain = [](int keycode) { return KeyPress{.keycode = keycode}; };
-  EXPECT_EQ(readmove(plain(key::right), start, second), "t");
-  EXPECT_EQ(readmove({.keycode = key::right, .shift = modifier::ctrl}, start, second), "two");
-  EXPECT_EQ(readmove(plain(key::left), second, start), "O");
-  EXPECT_EQ(readmove(plain(key::down), start, third), "");
-  EXPECT_EQ(readmove(plain(key::right), third, start), "One two");
-  EXPECT_EQ(readmove(plain(key::home), start, start), "One two");  // it cannot move
-  EXPECT_EQ(readmove(plain(key::r), start, second), std::nullopt);
 }
 
 }  // namespace

@@ -42,25 +42,6 @@ TEST_F(QtWindowTest, WaitsWithKeysComingThrough) {
   EXPECT_EQ(keys(), (Texts{"88", "78"}));
 }
 
-TEST(FrontEndTest, PlaysFromTheWelcomeToTheExit) {
-  const QTemporaryDir folder;  // with settings of its own
-  const GameFolders folders(folder.path().toStdString());
-  FrontEnd frontend(folders);
-  Game game(frontend.desktop());
-  QTimer player;
-  QObject::connect(&player, &QTimer::timeout, [&] {
-    QWidget* const window = QApplication::activeWindow();
-    if (window == nullptr) return;  // the game is still starting
-    player.stop();
-    press(window, Qt::Key_Up);  // to the last entry of the main menu
-    press(window, Qt::Key_Return);
-  });
-  player.start();
-  EXPECT_TRUE(frontend.run(game));
-  EXPECT_EQ(game.saidlines[1], "Good bye.");
-  EXPECT_TRUE(game.ended);
-}
-
 TEST(FrontEndTest, WithoutASoundDeviceItEndsAndTheLogTellsWhy) {
   const QTemporaryDir folder;
   qputenv("SDL_AUDIODRIVER", "nosuch");

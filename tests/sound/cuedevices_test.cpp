@@ -51,19 +51,6 @@ TEST_F(CueDevices, AllFilesAreAskedForBeforeTheyAreWanted) {
   EXPECT_EQ(asked.size(), cuetable().size());
 }
 
-TEST_F(CueDevices, VolumesAreTwoDecibelsAStepAndZeroIsSilence) {
-  const Samples full = original("map-edge");
-  for (const auto& [volume, decibels] : {std::pair(10, 0.0), {7, -6.0}, {1, -18.0}, {0, -200.0}}) {
-    cues.setcuevolume(volume);
-    const Cue played[] = {cue("map-edge")};
-    play(played);
-    const Samples heard = render(20000);
-    for (std::size_t n = 0; n < full.size(); ++n) {
-      ASSERT_NEAR(heard[2 * n], full[n] * std::pow(10, decibels / 20), 1e-5) << volume;
-    }
-  }
-}
-
 TEST_F(CueDevices, AStopEndsCuesAndLeavesAmbienceAndBuffersAlone) {
   const std::filesystem::path loop = folder.path / "sounds/ambience/dock.wav";
   const auto dockloop = [&](std::string_view name) { return name == "dock" ? loop : file(name); };

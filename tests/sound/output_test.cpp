@@ -48,31 +48,6 @@ Samples recorded(const ProgramFolder& folder, Action action) {
   return samples;
 }
 
-TEST(SoundOutputs, AnEffectReachesTheDeviceAtItsLevelsAndEndsWithItsLastSample) {
-  const ProgramFolder folder;
-  const Samples heard = recorded(folder, [](SoundOutput& output) {
-    output.mixer()->load(2, std::make_shared<const Clip>(Clip{1, Samples(4800, 0.5F)}));
-    output.mixer()->setvolume(2, -600);
-    output.mixer()->setpan(2, -1400);
-    output.mixer()->play(2, false);
-    return 0;
-  });
-  std::size_t sounding = 0;
-  for (std::size_t n = 0; n < heard.size(); n += 2) {
-    if (heard[n] == 0) continue;
-    ++sounding;
-    ASSERT_NEAR(20 * std::log10(heard[n] / 0.5), -6, 0.01);
-    ASSERT_NEAR(20 * std::log10(heard[n + 1] / 0.5), -20, 0.01);
-  }
-  EXPECT_EQ(sounding, 4800U);
-}
-
-TEST(SoundOutputs, WithoutADeviceTheStartFails) {
-  setenv("SDL_AUDIODRIVER", "nosuch", 1);
-  SoundOutput output([](std::string_view) {});
-  EXPECT_THROW(output.start(), PlatformError);
-}
-
 // A second of a 441 Hz tone with amplitude 0.5.
 void writemp3(const std::filesystem::path& file) {
   SF_INFO info{};

@@ -144,17 +144,6 @@ TEST(WavFiles, GoodOnesAreDecodedAndABadOneLeavesTheBufferAsItWas) {
   EXPECT_NEAR(slow.samples[4800], 0x2020 / 32768.0, 0.002);
 }
 
-TEST(WavFiles, TheGamesOwnNeedNoResampling) {
-  for (const char* name : {"menu/arrows", "menu/enter", "menu/previous", "menu/SAPI", "menu/NVDA",
-                           "menu/WE", "menu/JAWS", "game/saved"}) {
-    const std::filesystem::path file = std::string(SOURCE_FOLDER "/sounds/") + name + ".wav";
-    const Clip clip = readwav(file);
-    EXPECT_EQ(std::filesystem::file_size(file), 44 + 2 * clip.samples.size()) << name;
-    EXPECT_EQ(clip.samples.front(), 0) << name;
-    EXPECT_NEAR(clip.samples.back(), 0, 0.001) << name;
-  }
-}
-
 TEST(ClipCache, DecodesAgainWhatHasChanged) {
   const ProgramFolder folder;
   const std::filesystem::path file = folder.path / "sounds/menu/arrows.wav";

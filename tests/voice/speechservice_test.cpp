@@ -157,19 +157,5 @@ TEST_F(SpeechServiceTest, AThreadThatHangsWhileConnectingIsReplaced) {
   jaws_.reset();  // and the program can end
 }
 
-TEST_F(SpeechServiceTest, ThousandsOfKeysLeaveTheLastText) {
-  for (int key = 0; key < 5000; ++key) {
-    jaws_->interrupt();
-    jaws_->saystring(std::to_string(key));
-  }
-  EXPECT_TRUE(
-      eventually([&] { return !service_.asked().empty() && service_.asked().back() == "4999"; }));
-}
-
-TEST(SpeechServiceMissing, CannotBeCreated) {
-  const FakeService neverstarted;
-  EXPECT_THROW(createspeechservice([](std::string_view) {}), PlatformError);
-}
-
 }  // namespace
 }  // namespace duskmarch
