@@ -1,6 +1,7 @@
 // The game as its player hears it: keys go in, and what comes out is read off the mixer's samples.
 #include <algorithm>
 #include <cmath>
+#include <set>
 
 #include "../ground.h"
 #include "../harness.h"
@@ -125,6 +126,62 @@ TEST_F(HeardGame, AFileThatIsMissingOrBadIsALineInTheLogAndSilence) {
   EXPECT_EQ(std::ranges::count(log, '\n'), 1) << log;
   EXPECT_TRUE(log.starts_with("error in cues: gun-fired: ")) << log;
   EXPECT_NE(log.find("; heroes-turn: "), std::string::npos) << log;
+}
+
+// What a device does beside that.
+class CueDevices : public HeardGame {
+ protected:
+  CueDevices() {
+    cues.setcuevolume(10);
+    cues.setambiencevolume(10);
+  }
+  static std::filesystem::path file(std::string_view name) {
+    return SOURCE_FOLDER + fileof(*findcue(name));
+  }
+
+  MixedSounds sounds{mixer};
+  CueDevice& cues = sounds.cues();
+};
+
+TEST_F(CueDevices, AllFilesAreAskedForBeforeTheyAreWanted) {
+  std::multiset<std::string> asked;
+  const auto asking = [&](std::string_view name) {
+    asked.emplace(name);
+    return file(name);
+  };
+  const Cue first[] = {{.name = "step"}};
+  cues.playcues(first, asking);
+  EXPECT_EQ(std::set(asked.begin(), asked.end()).size(), cuetable().size());
+  for (const CueRow& row : cuetable()) {
+    const Cue next[] = {{.name = row.name}};
+    cues.playcues(next, asking);
+  }
+  EXPECT_EQ(asked.size(), cuetable().size());
+}
+
+TEST_F(CueDevices, AStopEndsCuesAndLeavesAmbienceAndBuffersAlone) {
+  const std::filesystem::path loop = SOURCE_FOLDER "/sounds/ambience/dock.wav";
+  const auto dockloop = [&](std::string_view name) { return name == "dock" ? loop : file(name); };
+  cues.setambience("dock", 0, dockloop);
+  render(24000);
+  cues.setambience("dock", 0, dockloop);  // goes on where it is
+  const Cue played[] = {{.name = "victory"}, {.name = "defeat", .delay = 500}};
+  cues.playcues(played, file);
+  render(9600);
+  sounds.load(2, "step", file("step"));
+  cues.stopcues();
+  render(2400);
+  sounds.play(2, false);
+  const Samples dock = readwav(loop).samples, step = original(cue::step), heard = render(48000);
+  for (std::size_t n = 0; n < 48000; ++n) {
+    const float effect = n < step.size() ? step[n] : 0;
+    ASSERT_NEAR(heard[2 * n], dock[36000 + n] + effect, 1e-5) << n;
+  }
+  cues.setambience("", 0, dockloop);
+  render(24000);
+  EXPECT_EQ(render(1000), Samples(2000));
+  const auto noloop = [&](std::string_view) { return player.folder().path / "none.wav"; };
+  EXPECT_THROW(cues.setambience("none", 0, noloop), PlatformError);
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 
 #include <array>
 #include <atomic>
+#include <chrono>
 #include <cstdlib>
 #include <filesystem>
 #include <mutex>
@@ -18,6 +19,17 @@
 #include <unistd.h>
 
 namespace duskmarch {
+
+// Until `happened()` or for longer than any machine needs; what it was in the end.
+template <class Condition>
+bool eventually(Condition happened) {
+  const auto limit = std::chrono::steady_clock::now() + std::chrono::seconds(60);
+  while (!happened()) {
+    if (std::chrono::steady_clock::now() > limit) return false;
+    std::this_thread::yield();
+  }
+  return true;
+}
 
 class FakeService {
  public:

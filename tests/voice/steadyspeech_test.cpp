@@ -7,7 +7,6 @@
 #include <gtest/gtest.h>
 
 #include "fakeservice.h"
-#include "patience.h"
 #include "platform/voice/engines.h"
 
 namespace duskmarch {
