@@ -68,20 +68,6 @@ TEST(Direction, IsOneLetterThatStaysOnTheMap) {
   }
 }
 
-TEST(Dive, TellsWhatItIsFor) {
-  Player player;
-  arrangefor(player.game(), "Vesper 2,2 20 4", "Dive");
-  player.game().mob(1).hasmoved = 1;
-  player.answer("s");
-  EXPECT_EQ(player.spoken([&] { dooption(player.game(), "Dive"); }).back(),
-            "Vesper dives South, to get more distance.");
-  player.game().mob(1).engaged = 1;
-  player.answer("e");
-  EXPECT_EQ(player.spoken([&] { dooption(player.game(), "Dive"); }).back(),
-            "Vesper dives East, out of a fight.");
-  EXPECT_EQ(player.game().mob(1).engaged, 0) << "nobody holds her there";
-}
-
 TEST(CommonEnding, SpeaksTheEmptyTextWhenNothingWasLoggedYet) {
   Player player;
   arrange(player.game(), "Vesper 2,2 20 4 | Table 2,2 1");
@@ -102,7 +88,10 @@ TEST(SmokeBombs, AreThickAroundTheHeroAndThinTwoTilesAway) {
   EXPECT_EQ(tiletags(player.game(), 2, 2), "[Smoke][Smoke]");
   EXPECT_EQ(tiletags(player.game(), 3, 1), "[Smoke][Smoke]");
   EXPECT_EQ(tiletags(player.game(), 3, 2), "");
-  EXPECT_EQ(tiletags(player.game(), 1, 0), "") << "off the map";
+  for (const auto& [x, y] : {std::pair{-1, 3}, {3, 16}, {16, -1}}) {
+    addtiletag(player.game(), x, y, "[Smoke]", 2);
+    EXPECT_EQ(tiletags(player.game(), x, y), "") << "off the map";
+  }
 }
 
 }  // namespace

@@ -9,12 +9,6 @@
 namespace duskmarch {
 namespace {
 
-std::string joined(const std::vector<std::string>& texts) {
-  std::string all;
-  for (const std::string& text : texts) all += (all.empty() ? "" : "|") + text;
-  return all;
-}
-
 // From the main menu: recruits Owl, and begins the campaign's next mission.
 void beginmission(Player& player) {
   perform(player, 1);
@@ -168,18 +162,6 @@ std::string anewcomersfight(Player& player) {
   return game.list1.front() + "|" + joined(game.list2) + "|" + game.mob(2).action;
 }
 
-std::string plansofthekickedandthehit(Player& player) {
-  std::string plans;
-  for (const std::string entry : {"[Kick West]", "[Throw chair West]"}) {
-    Game& game = player.game();
-    game.mobcount = game.itemcount = 0;
-    arrange(game, "Vesper 2,2 20 4 plans[Fight] | Jessie 3,2 9 5 | Chair 3,2 1");
-    doenemyoption(game, 2, entry);
-    plans += described(game.mob(1)) + "|";
-  }
-  return plans;
-}
-
 std::string pointsafterareload(Player& player) {
   beginmission(player);
   player.game().mob(1).upgradepoints = 6;
@@ -269,8 +251,6 @@ TEST(AsHeard, IsMeant) {
        "B 1, 1 here.  Muscles.  There is a Chair here.|Lynx selected at location E 3."},
       {"a newcomer's fight", anewcomersfight,
        "Tony comes. Location B, 2 and engaged Vesper in a fight.|Move|Target Tony|"},
-      {"plans of who is kicked and who is hit", plansofthekickedandthehit,
-       "Vesper 1,2 15 4 [Dazed][Dazed] plans[Fight]|Vesper 2,2 16 4 [Dazed][Dazed]|"},
       {"who is shot, in the next mission", whoisshotinthenextmission, "shot, 8"},
       {"Enter with any modifier", anymodifierforenter,
        "Health increased to 13.|Defeat the punks at the tattoo parlor."},

@@ -260,12 +260,11 @@ TEST(CuesOfAnEndOfTurn, MoveTogetherWhereThereAreManyAndStepsGoFirst) {
 
 TEST(SoundPage, StandsInTheManual) {
   std::istringstream lines(soundlist());
-  std::ostringstream manual;
-  manual << std::ifstream(SOURCE_FOLDER "/readme.txt").rdbuf();
   std::string listed;
   for (std::string line; std::getline(lines, line);)
     listed += line.substr(0, line.find('\r')) + "\n";
-  EXPECT_TRUE(manual.str().ends_with("This is what it holds:\n\n" + listed));
+  EXPECT_TRUE(
+      filetext(SOURCE_FOLDER "/readme.txt").ends_with("This is what it holds:\n\n" + listed));
 }
 
 TEST(Ambience, IsNamedByEveryMissionAndThereIsNoneWithoutASetUp) {

@@ -20,6 +20,13 @@
 
 namespace duskmarch {
 
+// The content of a file; empty when there is none.
+inline std::string filetext(const std::filesystem::path& file) {
+  std::ostringstream content;
+  content << std::ifstream(file, std::ios::binary).rdbuf();
+  return content.str();
+}
+
 // A fresh folder with the game's sounds in it, named as only Unicode can; gone with the object.
 class ProgramFolder {
  public:
@@ -46,15 +53,18 @@ class ProgramFolder {
   void write(std::string_view name, std::string_view content) const {
     std::ofstream(path / pathof(name), std::ios::binary) << content;
   }
-  // The content of a file; empty when there is none.
-  std::string read(std::string_view name) const {
-    std::ostringstream content;
-    content << std::ifstream(path / pathof(name), std::ios::binary).rdbuf();
-    return content.str();
-  }
+  std::string read(std::string_view name) const { return filetext(path / pathof(name)); }
 
   std::filesystem::path path;
 };
+
+// "One|Two": for lists that are compared at once.
+template <class Texts>
+std::string joined(const Texts& texts) {
+  std::string all;
+  for (const std::string& text : texts) all += (all.empty() ? "" : "|") + text;
+  return all;
+}
 
 class Player {
  public:

@@ -16,8 +16,7 @@ std::string flowing(const std::string& text) {
 }
 
 std::vector<std::string> quotesbetween(std::string_view opening, std::string_view closing) {
-  std::ifstream file(SOURCE_FOLDER "/readme.txt");
-  const std::string manual(std::istreambuf_iterator<char>(file), {});
+  const std::string manual = filetext(SOURCE_FOLDER "/readme.txt");
   const std::size_t begin = manual.rfind(opening);
   std::istringstream section(manual.substr(begin, manual.find(closing, begin) - begin));
   std::vector<std::string> quotes;

@@ -40,5 +40,17 @@ TEST(Melee, AMobIsHeldByAnyFreeOpponentOnItsTileWhoPlansToFight) {
   }
 }
 
+TEST(Melee, OnlyTheRestedFreeAndConsciousRegainAPoint) {
+  Player player;
+  Game& game = player.game();
+  arrange(game,
+          "Vesper 1,1 20 1 | Nora 1,1 20 3 | Tony 1,1 16 1 [Netted] | Al 1,1 0 1 | Joe 1,1 16 1");
+  for (int slot = 1; slot <= game.mobcount; ++slot) game.mob(slot).maxfight = 3;
+  game.mob(5).rested = 0;
+  regainfightingpoints(game);
+  EXPECT_EQ(game.turnsummary, "  Vesper regains 1 fighting point.");
+  EXPECT_EQ(game.mob(1).fight, 2);
+}
+
 }  // namespace
 }  // namespace duskmarch

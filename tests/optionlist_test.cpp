@@ -14,12 +14,6 @@
 namespace duskmarch {
 namespace {
 
-std::string joined(const std::vector<std::string>& lines) {
-  std::string text;
-  for (const std::string& line : lines) text += (text.empty() ? "" : "|") + line;
-  return text;
-}
-
 void arrangefor(Game& game, const std::string& ground, int slot, const std::string& abilities) {
   arrange(game, ground);
   std::istringstream names(abilities);
@@ -83,15 +77,6 @@ TEST(HeroOptions, AreWhatTheHeroCanDoNow) {
     listoptions(player.game(), 0);
     EXPECT_EQ(joined(player.game().list2), options) << abilities << " with " << ground;
   }
-}
-
-TEST(HeroOptions, LeaveOutWhatIsUsedUp) {
-  Player player;
-  arrangefor(player.game(), "Vesper 2,2 20 4", 1, "Dive,Hook");
-  useup(player.game(), 1, "Dive", 2);
-  useup(player.game(), 1, "Hook", 1);
-  listoptions(player.game(), 0);
-  EXPECT_EQ(joined(player.game().list2), "Move");
 }
 
 const std::vector<Case> enemycases{

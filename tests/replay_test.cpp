@@ -45,12 +45,6 @@ TEST(Replay, NothingFollowsTheEnd) {
   EXPECT_EQ(player.press(key::down), Lines{});
 }
 
-std::string wholefile(const std::filesystem::path& file) {
-  std::ostringstream content;
-  content << std::ifstream(file, std::ios::binary).rdbuf();
-  return content.str();
-}
-
 // A script may come with the saved game that it loads.
 std::string played(std::filesystem::path script) {
   ProgramFolder folder;
@@ -74,7 +68,7 @@ TEST(Replay, ScriptsGiveTheirTranscripts) {
     if (std::getenv("UPDATE_TRANSCRIPTS") != nullptr) {
       std::ofstream(transcript, std::ios::binary) << found;
     }
-    EXPECT_EQ(found, wholefile(transcript)) << entry.path();
+    EXPECT_EQ(found, filetext(transcript)) << entry.path();
   }
   EXPECT_GT(scripts, 0);
 }

@@ -58,14 +58,6 @@ TEST(Queries, CountWhoAndWhatIsInPlayOnATile) {
   EXPECT_EQ(finditem(game, 1, 2, "Table"), 0);
 }
 
-TEST(Tiles, HaveNoTagsBeyondTheGrid) {
-  Player player;
-  for (const auto& [x, y] : {std::pair{-1, 3}, {3, 16}, {16, -1}}) {
-    addtiletag(player.game(), x, y, "[Smoke]", 2);
-    EXPECT_EQ(tiletags(player.game(), x, y), "");
-  }
-}
-
 TEST(Narration, FillsInWhoItIsAbout) {
   Player player;
   Game& game = player.game();

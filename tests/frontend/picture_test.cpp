@@ -70,6 +70,25 @@ Text name(int y, std::string words) {
           .within = {100, y, 200, y + 100}};
 }
 
+TEST(Picture, OutlinesHoldBothCornersAtAnyScale) {
+  for (const auto& [scale, ratio] : {std::pair{1.0, 1.0}, {0.5, 1.0}, {1.0, 2.0}, {3.0, 1.0}}) {
+    const double pixels = scale * ratio;
+    const int line = std::max(1, static_cast<int>(pixels));
+    const Paper paper = painted(scale, ratio, [](Canvas& map) {
+      map.outline({10, mapstop + 10, 110, mapstop + 60}, red);
+    });
+    Rect all = paper.reds.at(0);
+    for (const Rect& side : paper.reds) {
+      EXPECT_EQ(std::min(side.right - side.left, side.bottom - side.top), line);
+      all.right = std::max(all.right, side.right);
+      all.bottom = std::max(all.bottom, side.bottom);
+    }
+    EXPECT_EQ(all.left, 10 * pixels);
+    EXPECT_EQ(all.right, 110 * pixels + line);
+    EXPECT_EQ(all.bottom, (mapstop + 0) * ratio + 60 * pixels + line);
+  }
+}
+
 TEST(Picture, FillsBelowTheSpokenLineReachTheWindowsEdges) {
   Picture picture;
   picture.fit(1003, 707, 1);
