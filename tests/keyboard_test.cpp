@@ -64,17 +64,6 @@ struct BusyPlayer {
   Game game{desktop};
 };
 
-TEST(Keyboard, AKeyInsideAnotherKeysHandlerWaitsItsTurn) {
-  BusyPlayer player;
-  startup(player.game);
-  player.replay.transcript.clear();
-  player.window.pending = [&] { keypress(player.game, {.keycode = key::e}); };
-  keypress(player.game, {.keycode = key::down});
-  EXPECT_EQ(player.replay.transcript.text(),
-            "play\t2\t0\t0\t0\tsounds/menu/arrows.wav\nvoice\tStart new game\n"
-            "voice\tHold Shift and press E to confirm ending your current turn.\n");
-}
-
 TEST(Keyboard, EnterAgainDuringTheFarewellDoesNothing) {
   BusyPlayer player;
   startup(player.game);
