@@ -7,7 +7,9 @@
 
 #include "platform/frontend/heldkeys.h"
 #include "platform/frontend/keyplaces.h"
+#include "platform/frontend/reading.h"
 #include "platform/frontend/typed.h"
+#include "shell/speech/keycodes.h"
 
 namespace duskmarch {
 namespace {
