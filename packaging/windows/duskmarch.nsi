@@ -56,7 +56,22 @@ Function .onInstSuccess
   no:
 FunctionEnd
 
+; A program that runs cannot be removed, and then nothing is to be.
+Function un.awaittheend
+  retry:
+  ClearErrors
+  FileOpen $0 "$INSTDIR\duskmarch.exe" a
+  IfErrors runs
+  FileClose $0
+  Return
+  runs:
+  MessageBox MB_RETRYCANCEL "Duskmarch is running.  Please close it first." /SD IDCANCEL IDRETRY retry
+  SetErrorLevel 2
+  Quit
+FunctionEnd
+
 Section Uninstall
+  Call un.awaittheend
   !include "${REMOVAL}"
   Delete "$INSTDIR\uninstall.exe"
   RMDir "$INSTDIR"
