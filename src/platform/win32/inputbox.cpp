@@ -19,7 +19,7 @@ namespace {
 // In the game's pixels.
 constexpr int margin = 12;
 constexpr int usualwidth = 400;
-constexpr int around = 8;  // of letters in the field and the buttons, above and below together
+constexpr int around = 12;  // of letters in the field and the buttons, above and below together
 constexpr int buttonwidth = 88;
 constexpr int labelid = 100;
 constexpr int fieldid = 101;
