@@ -33,6 +33,11 @@ def choose(folder, mode):
     (folder / "progress.ini").write_bytes(b" %d \r\n 2 \r\n\r\n" % mode)
 
 
+def start(game, folder, mode):
+    choose(folder, mode)
+    game.play(folder / "duskmarch.exe")
+
+
 def texts(game):
     return [line.partition(" ")[2] for line in game.said()]
 
@@ -108,8 +113,7 @@ def open_the_box(game):
 
 
 def the_reader_hears_a_turn(game, folder):
-    choose(folder, 1)
-    game.play(folder / "duskmarch.exe")
+    start(game, folder, 1)
     enter_the_test_mission(game)
     page = game.focus()
     assert page["style"] & READONLY and page["style"] & MULTILINE, page
@@ -133,13 +137,12 @@ def the_reader_hears_a_turn(game, folder):
     assert "-End of turn number 1." in lines and "Nightjar moves to the North." in lines, lines
     game.expect_title("Nightjar selected at location B 4.", "Return")
     game.expect_title("Exit the game", "shift+Escape")
-    game.expect_title("Good bye.", "Return")
+    game.press("Return")
     assert game.program.wait(LIMIT) == 0
 
 
 def the_voice_reads_pages_and_boxes(game, folder):
-    choose(folder, 0)
-    game.play(folder / "duskmarch.exe")
+    start(game, folder, 0)
     game.expect_said("Start new game", "Down")
     game.press("Down", "Return")
     game.expect_focus("Edit", STORY)
@@ -147,11 +150,11 @@ def the_voice_reads_pages_and_boxes(game, folder):
     game.expect_said("i", "Right")
     game.expect_said(words[1], "ctrl+Right")
     game.expect_said(words[0], "ctrl+Left")
-    start = words[0] + " " + words[1]
+    beginning = words[0] + " " + words[1]
     game.expect(lambda: game.focus()["caret"] == 0, "the caret at the start")
     before = len(game.said())
     game.press("Left")  # which cannot move
-    game.expect(lambda: any(start in line for line in game.said()[before:]), "the line again")
+    game.expect(lambda: any(beginning in line for line in game.said()[before:]), "the line again")
     game.press("Escape", "space")
     game.press("Down")
     game.hold("Return")  # which opens the box, and must not answer it
@@ -168,8 +171,7 @@ def the_voice_reads_pages_and_boxes(game, folder):
 
 
 def an_arrow_answers_the_box(game, folder):
-    choose(folder, 1)
-    game.play(folder / "duskmarch.exe")
+    start(game, folder, 1)
     enter_the_test_mission(game)
     game.expect_focus("Duskmarch", "", "Escape")
     choose_to_move(game)
@@ -179,9 +181,8 @@ def an_arrow_answers_the_box(game, folder):
 
 
 def pages_tell_of_keys_and_sounds(game, folder):
-    choose(folder, 1)
     (folder / "comfort.ini").write_bytes(b" 1 \r\n 10 \r\n 0 \r\n\r\n")  # cues, but no ambience
-    game.play(folder / "duskmarch.exe")
+    start(game, folder, 1)
     game.expect_focus("Duskmarch", "Welcome to Duskmarch")
     game.expect_focus("Edit", "Step: somebody takes a step.", "F7")
     game.press("Down", "Down")
@@ -195,8 +196,7 @@ def pages_tell_of_keys_and_sounds(game, folder):
 
 
 def the_voice_changes(game, folder):
-    choose(folder, 0)
-    game.play(folder / "duskmarch.exe")
+    start(game, folder, 0)
     game.expect_said("Start new game", "Down")
     game.expect_said("High Voice", "F11")
     close(game)
@@ -205,12 +205,13 @@ def the_voice_changes(game, folder):
     game.expect(lambda: "Voice High Voice" in game.said(), "the same voice again")
     game.expect_said("Low Voice", "shift+F11")
     assert game.said().count("Voice Low Voice") == 1, game.said()
-    close(game)
+    game.expect_said("Exit the game", "Escape")
+    game.expect_said("Good bye.", "Return")
+    assert game.program.wait(LIMIT) == 0
 
 
 def the_voice_hangs(game, folder):
-    choose(folder, 0)
-    game.play(folder / "duskmarch.exe")
+    start(game, folder, 0)
     game.expect_said("Start new game", "Down")
     game.tell("voice", "hang")
     game.press("Down", "Prior")
@@ -222,8 +223,7 @@ def the_voice_hangs(game, folder):
 
 
 def jaws_speaks_goes_and_comes_back(game, folder):
-    choose(folder, 3)
-    game.play(folder / "duskmarch.exe")
+    start(game, folder, 3)
     game.expect_said("Start new game", "Down")
     assert game.said()[-1] == "SayString(0) Start new game", game.said()
     game.tell("jaws", "gone")
@@ -237,8 +237,7 @@ def jaws_speaks_goes_and_comes_back(game, folder):
 
 
 def tab_goes_round_the_engines(game, folder):
-    choose(folder, 0)
-    game.play(folder / "duskmarch.exe")
+    start(game, folder, 0)
     for mode in (1, 2, 3, 0):
         game.press("Tab")
         game.expect(lambda: settings(folder) == b" %d \r\n 2 \r\n\r\n" % mode, f"mode {mode}")
@@ -252,8 +251,7 @@ def tab_goes_round_the_engines(game, folder):
 
 
 def the_settings_are_locked(game, folder):
-    choose(folder, 1)
-    game.play(folder / "duskmarch.exe")
+    start(game, folder, 1)
     game.expect_focus("Duskmarch", "Welcome to Duskmarch")
     assert game.ask("hold " + windows_path(folder / "progress.ini"))
     game.expect_title("Sapi rate changed to 3.  Your speech settings cannot be saved.", "Prior")
@@ -265,8 +263,7 @@ def the_settings_are_locked(game, folder):
 
 
 def window_eyes_is_sent_its_keys(game, folder):
-    choose(folder, 2)
-    game.play(folder / "duskmarch.exe")
+    start(game, folder, 2)
     game.expect_focus("Duskmarch", "Welcome to Duskmarch")
     before = len(game.ask("sentkeys"))
     # The keys of mode 2 are the player's to no one: as a Ctrl, one would have emptied the title.
@@ -279,9 +276,8 @@ def window_eyes_is_sent_its_keys(game, folder):
 
 
 def sounds_are_heard_as_they_are_recorded(game, folder):
-    choose(folder, 1)
     (folder / "comfort.ini").write_bytes(b" 1 \r\n 0 \r\n 0 \r\n\r\n")  # no cues, no ambience
-    game.play(folder / "duskmarch.exe")
+    start(game, folder, 1)
     game.expect_focus("Duskmarch", "Welcome to Duskmarch")
     for key, sound in (("Down", "arrows"), ("Tab", "WE")):
         expect_heard(game, key, folder / "sounds" / "menu" / (sound + ".wav"))
@@ -291,7 +287,7 @@ def sounds_are_heard_as_they_are_recorded(game, folder):
 def without_a_device_it_ends(game, folder):
     choose(folder, 1)
     game.start_program(folder / "duskmarch.exe",
-                                 PULSE_SERVER=f"unix:{game.folder}/nowhere")
+                       PULSE_SERVER=f"unix:{game.folder}/nowhere")
     expect_message(game, "Unable to start DirectSound")
     game.press("Return")
     assert game.program.wait(LIMIT) == 1
@@ -317,8 +313,7 @@ def a_frozen_device_holds_nothing_up(game, folder):
 
 
 def a_second_start_is_refused(game, folder):
-    choose(folder, 1)
-    game.play(folder / "duskmarch.exe")
+    start(game, folder, 1)
     game.expect_title("Start new game", "Down")
     first = game.program
     game.start_program(folder / "duskmarch.exe")
@@ -339,8 +334,7 @@ def arguments_are_answered(game, folder):
 
 
 def a_crash_leaves_the_keys(game, folder):
-    choose(folder, 1)
-    game.play(folder / "duskmarch.exe")
+    start(game, folder, 1)
     game.expect_title("Start new game", "Down")
     game.expect_title("Test mission where you control 2", "Down")
     assert game.ask("crash")
@@ -352,8 +346,7 @@ def a_crash_leaves_the_keys(game, folder):
 
 
 def the_system_shuts_down(game, folder):
-    choose(folder, 2)
-    game.play(folder / "duskmarch.exe")
+    start(game, folder, 2)
     game.expect_title("Start new game", "Down")
     assert game.ask("endsession")
     assert game.program.wait(LIMIT) == 0
