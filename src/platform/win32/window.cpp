@@ -114,7 +114,7 @@ void Win32Window::run(int how) {
   SetForegroundWindow(handle_);
   SetTimer(handle_, readertimer, betweenlooks, nullptr);
   while (handleevents()) WaitMessage();
-  while (game_ != nullptr && trybusyfilesagain(*game_)) Sleep(betweentries);
+  keepallfiles();
 }
 
 void Win32Window::end() {
@@ -140,6 +140,10 @@ void Win32Window::makepostedcalls() {
 void Win32Window::lookforreader() {
   const bool before = std::exchange(readerseen_, readerflag());
   if (readerseen_ && !before && game_ != nullptr) readerfound(*game_);
+}
+
+void Win32Window::keepallfiles() {
+  while (game_ != nullptr && trybusyfilesagain(*game_)) Sleep(betweentries);
 }
 
 void Win32Window::keepbusyfiles() {
@@ -298,9 +302,11 @@ LRESULT Win32Window::handle(UINT message, WPARAM first, LPARAM second) {
       reinterpret_cast<MINMAXINFO*>(second)->ptMinTrackSize = {size.cx, size.cy};
       return 0;
     }
-    case WM_QUERYENDSESSION: return TRUE;  // everything is kept as soon as it changes
+    case WM_QUERYENDSESSION: return TRUE;  // nothing takes longer to keep than WM_ENDSESSION may
     case WM_ENDSESSION:
-      if (first != FALSE) end();
+      if (first == FALSE) return 0;
+      end();
+      keepallfiles();  // the program may not get beyond this message
       return 0;
     case WM_CLOSE: end(); return 0;
     case WM_TIMER:

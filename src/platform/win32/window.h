@@ -66,6 +66,7 @@ class Win32Window : public Window {
   bool drops(const MSG& message);
   void makepostedcalls();
   void lookforreader();
+  void keepallfiles();
   void keepbusyfiles();
   void paint();
   void resized();

@@ -30,6 +30,12 @@ Keeping attempt(Game& game, const OwnFile& file) {
   return Keeping::done;
 }
 
+// The place of it, in a list that may be const; the list's end where it does not wait.
+auto waitingfile(auto& busyfiles, std::string_view name) {
+  return std::ranges::find_if(busyfiles,
+                              [&](const BusyFile& busy) { return busy.file.name == name; });
+}
+
 // With the last text once more, which may be cut off by it; or with the next, where the player is
 // somewhere that this would lead away from.
 void telllate(Game& game) {
@@ -40,8 +46,7 @@ void telllate(Game& game) {
 }  // namespace
 
 Keeping keepfile(Game& game, OwnFile file) {
-  const auto named = [&](const BusyFile& busy) { return busy.file.name == file.name; };
-  const auto waiting = std::ranges::find_if(game.busyfiles, named);
+  const auto waiting = waitingfile(game.busyfiles, file.name);
   if (waiting != game.busyfiles.end()) {
     waiting->file = std::move(file);
     return Keeping::waiting;
@@ -66,8 +71,7 @@ bool trybusyfilesagain(Game& game) {
 }
 
 const std::string* waitingtext(const Game& game, std::string_view name) {
-  const auto named = [&](const BusyFile& busy) { return busy.file.name == name; };
-  const auto waiting = std::ranges::find_if(game.busyfiles, named);
+  const auto waiting = waitingfile(game.busyfiles, name);
   return waiting == game.busyfiles.end() ? nullptr : &waiting->file.text;
 }
 
