@@ -1,6 +1,7 @@
 // Plays music as the game does, for a test that listens. Reads commands from standard input, a line
 // each, and answers each with a line: `load FILE`, `volume N`, `balance N`, `position SECONDS`,
 // `run`, `end`. "no" for a file that is refused.
+#include <chrono>
 #include <cstdlib>
 #include <iostream>
 #include <memory>
@@ -14,12 +15,15 @@
 
 namespace {
 
+// Wine falls over a driver's thread that a program leaves behind at its end.
+constexpr std::chrono::seconds farewell(20);
+
 std::unique_ptr<duskmarch::MusicGraph> music;
 
 bool perform(const std::string& command, const std::string& value) {
   if (command == "load") {
     music.reset();
-    music = std::make_unique<duskmarch::DirectMusic>(duskmarch::utf16(value));
+    music = std::make_unique<duskmarch::DirectMusic>(duskmarch::utf16(value), farewell);
   }
   if (!music) return false;
   if (command == "volume") music->setvolume(std::atoi(value.c_str()));

@@ -1,7 +1,6 @@
 #include "platform/win32/sound/directmusic.h"
 
 #include <algorithm>
-#include <chrono>
 #include <optional>
 #include <string>
 #include <utility>
@@ -85,7 +84,7 @@ void DirectMusic::Player::setposition(double seconds) {
   position_->put_CurrentPosition(std::clamp(seconds, 0.0, end));
 }
 
-DirectMusic::DirectMusic(const std::filesystem::path& file)
+DirectMusic::DirectMusic(const std::filesystem::path& file, std::chrono::milliseconds farewell)
     : thread_((checkmp3(file), std::make_shared<Orders>(file)),
               [](const std::shared_ptr<Orders>& orders) {
                 try {
@@ -94,7 +93,7 @@ DirectMusic::DirectMusic(const std::filesystem::path& file)
                   return;
                 }
               },
-              std::chrono::milliseconds(0)) {}
+              farewell) {}
 
 DirectMusic::~DirectMusic() = default;
 

@@ -1,6 +1,7 @@
 // An MP3 file played by the system itself.
 #pragma once
 
+#include <chrono>
 #include <filesystem>
 
 #include "platform/desktop.h"
@@ -12,8 +13,9 @@ namespace duskmarch {
 // after all stays silent.
 class DirectMusic final : public MusicGraph {
  public:
-  // Throws PlatformError when `file` is no MP3.
-  explicit DirectMusic(const std::filesystem::path& file);
+  // Throws PlatformError when `file` is no MP3. Its end waits for the thread's for `farewell`: not
+  // at all in the game, which goes on or ends every thread by force.
+  explicit DirectMusic(const std::filesystem::path& file, std::chrono::milliseconds farewell = {});
   ~DirectMusic() override;
 
   void setvolume(int volume) override;
