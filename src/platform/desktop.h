@@ -1,6 +1,6 @@
 // What the game asks of a desktop. Every class here is implemented once per front end (the Qt
-// window, the scripted stand-in, and one day a native Windows window); the rules see nothing else
-// of the outside world but files in the program folder.
+// window, the one for Windows, the scripted stand-in); the rules see nothing else of the outside
+// world but files.
 //
 // Unless a call says otherwise it returns at once: no speech or sound call may wait for an engine,
 // a service or a device. A call that fails throws PlatformError with words fit for the log.

@@ -46,11 +46,11 @@ class Mixer {
   TimedVoices& ambience() { return ambience_; }
   // The sample clock: the frame at which the next block begins.
   std::uint64_t now() const { return clock_; }
-  // Whether a voice speaks that is not among the sources. The sources tell it themselves.
   // How often a device has taken the place of another. A voice that speaks through the system may
   // have to be made again then.
   unsigned newdevices() const noexcept { return newdevices_; }
   void devicereplaced() noexcept { ++newdevices_; }
+  // Whether a voice speaks that is not among the sources. The sources tell it themselves.
   void setspeaking(bool speaking) { speaking_ = speaking; }
 
   // Frees what the audio thread no longer needs. Other calls do so too; this is for quiet times.

@@ -128,8 +128,8 @@ void aborted(int /*signal*/) {
 
 }  // namespace
 
-CrashHandler::CrashHandler(const CrashTrace& trace, const std::filesystem::path& programfolder) {
-  const std::wstring folder = programfolder.wstring() + L"\\";
+CrashHandler::CrashHandler(const CrashTrace& trace, const std::filesystem::path& filesfolder) {
+  const std::wstring folder = filesfolder.wstring() + L"\\";
   const std::size_t room = prepared.folder.size() - 1;
   prepared.folder.at(folder.copy(prepared.folder.data(), room)) = L'\0';
   prepared.keys = &trace;

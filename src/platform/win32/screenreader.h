@@ -3,7 +3,7 @@
 
 namespace duskmarch {
 
-// By the flag that readers set. Narrator does not; it reads no changed titles either.
+// By the flag that readers set. Narrator does not set it.
 bool readerflag();
 // Also because somebody listens to UI Automation, who may be a reader.
 bool readerlistens();

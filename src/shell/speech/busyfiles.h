@@ -16,9 +16,9 @@ enum class Keeping { done, waiting, failed };
 // text takes the older one's place.
 Keeping keepfile(Game& game, OwnFile file);
 // Tries again what another program has kept from being written, each for half a second, after
-// which the player is told; whether anything is left to try. A front end calls it every few
-// hundredths of a second while there are `busyfiles`, and at the end of the program until it is
-// done.
+// which the player is told; whether anything is left to try. The front end of a system that has
+// FileBusy calls it every few hundredths of a second while there are `busyfiles`, and at the end of
+// the program until it is done.
 bool trybusyfilesagain(Game& game);
 // The text that a file has as soon as it can be written; nothing if it is not waiting for that.
 const std::string* waitingtext(const Game& game, std::string_view name);

@@ -18,7 +18,7 @@
 namespace duskmarch {
 namespace {
 
-// In units of 100 ns. Twenty milliseconds are clean on a quiet machine.
+// In units of 100 ns. With less, Wine's sound server ran dry now and then.
 constexpr REFERENCE_TIME buffertime = 30 * 10000;
 // How long the device may ask for nothing before the thread looks whether it is to end.
 constexpr DWORD wakeup = 100;
