@@ -32,7 +32,24 @@ ShowUninstDetails nevershow
 
 !define LISTED "Software\Microsoft\Windows\CurrentVersion\Uninstall\Duskmarch"
 
+; A program that runs can be neither replaced nor removed, and then nothing is to be.
+!macro awaittheend
+  retry:
+  IfFileExists "$INSTDIR\duskmarch.exe" 0 gone
+  ClearErrors
+  FileOpen $0 "$INSTDIR\duskmarch.exe" a
+  IfErrors runs
+  FileClose $0
+  Goto gone
+  runs:
+  MessageBox MB_RETRYCANCEL "Duskmarch is running.  Please close it first." /SD IDCANCEL IDRETRY retry
+  SetErrorLevel 2
+  Quit
+  gone:
+!macroend
+
 Section
+  !insertmacro awaittheend
   SetOutPath "$INSTDIR"
   SetOverwrite on
   File /r "${FOLDER}/*"
@@ -56,22 +73,8 @@ Function .onInstSuccess
   no:
 FunctionEnd
 
-; A program that runs cannot be removed, and then nothing is to be.
-Function un.awaittheend
-  retry:
-  ClearErrors
-  FileOpen $0 "$INSTDIR\duskmarch.exe" a
-  IfErrors runs
-  FileClose $0
-  Return
-  runs:
-  MessageBox MB_RETRYCANCEL "Duskmarch is running.  Please close it first." /SD IDCANCEL IDRETRY retry
-  SetErrorLevel 2
-  Quit
-FunctionEnd
-
 Section Uninstall
-  Call un.awaittheend
+  !insertmacro awaittheend
   !include "${REMOVAL}"
   Delete "$INSTDIR\uninstall.exe"
   RMDir "$INSTDIR"

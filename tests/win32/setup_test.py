@@ -33,6 +33,9 @@ def main(build):
         assert game.runs("reg", "query", LISTED, "/v", "QuietUninstallString")
         game.play(place / "duskmarch.exe")
         game.expect_title("Start new game", "Down")
+        (place / "readme.txt").write_bytes(b"")
+        assert not game.runs(setup, "/S", "/D=" + windows_path(place))
+        assert (place / "readme.txt").read_bytes() == b"", "put in under a game that runs"
         # Without a copy of itself, so that its end can be waited for.
         assert not game.runs(place / "uninstall.exe", "/S", "_?=" + windows_path(place))
         assert (place / "readme.txt").exists(), "removed from under a game that runs"
