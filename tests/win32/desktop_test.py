@@ -210,6 +210,14 @@ def the_voice_changes(game, folder):
     assert game.program.wait(LIMIT) == 0
 
 
+def without_voices_the_title_tells(game, folder):
+    game.tell("voice", "none")
+    start(game, folder, 0)
+    game.expect_title("Start new game", "Down")
+    close(game)
+    game.tell("voice", None)
+
+
 def the_voice_hangs(game, folder):
     start(game, folder, 0)
     game.expect_said("Start new game", "Down")
@@ -354,7 +362,8 @@ def the_system_shuts_down(game, folder):
 
 SCENES = (the_reader_hears_a_turn, the_voice_reads_pages_and_boxes, an_arrow_answers_the_box,
           pages_tell_of_keys_and_sounds, the_voice_changes, the_voice_hangs,
-          jaws_speaks_goes_and_comes_back, tab_goes_round_the_engines, window_eyes_is_sent_its_keys,
+          without_voices_the_title_tells, jaws_speaks_goes_and_comes_back,
+          tab_goes_round_the_engines, window_eyes_is_sent_its_keys,
           sounds_are_heard_as_they_are_recorded, the_settings_are_locked, the_system_shuts_down,
           a_second_start_is_refused, arguments_are_answered, without_a_device_it_ends,
           a_frozen_device_holds_nothing_up, a_crash_leaves_the_keys)

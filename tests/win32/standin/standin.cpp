@@ -2,7 +2,8 @@
 // told to the file %SPEECH_LOG%, a line each. What they do is changed while the game runs, by files
 // beside it: %SPEECH_LOG%.voice and %SPEECH_LOG%.jaws hold one word. "hang": a call does not return
 // until that file has gone; "gone": every object fails for good, and none can be made; "deaf": a
-// text is refused; "long": the voice goes on speaking. The voice can be either of two.
+// text is refused; "none": that, and no voice is listed; "long": the voice goes on speaking. The
+// voice can be either of two.
 #include <cstdio>
 #include <iterator>
 #include <span>
@@ -157,7 +158,8 @@ class VoiceList : public Object {
   VoiceList() : Object(oflist) {}
   HRESULT WINAPI Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS* given, VARIANT* result,
                         EXCEPINFO*, UINT*) override {
-    if (id == count) return answer(*result, static_cast<long>(std::size(voicenames)));
+    const bool any = orderfor(true) != "none";
+    if (id == count) return answer(*result, any ? static_cast<long>(std::size(voicenames)) : 0);
     const long number = given->cArgs == 1 ? numberin(given->rgvarg[0]) : -1;
     if (number < 0 || number >= static_cast<long>(std::size(voicenames))) return DISP_E_BADINDEX;
     return answer(*result, new OneVoice(voicenames[number]));
@@ -199,6 +201,7 @@ class Speech : public Object {
     return S_OK;
   }
   HRESULT getstate(DISPID id, VARIANT& result) {
+    if (id == voiceproperty && orderfor(true) == "none") return E_FAIL;
     if (id == voiceproperty) return answer(result, new OneVoice(voicenames[0]));
     if (id != status) return answer(result, orderfor(thevoice_) == "long" ? 2 : 1);
     AddRef();
@@ -206,7 +209,8 @@ class Speech : public Object {
   }
   HRESULT say(DISPPARAMS& given, VARIANT* result) const {
     hangwhiletold(thevoice_);
-    const bool heard = orderfor(thevoice_) != "deaf";
+    const std::string order = orderfor(thevoice_);
+    const bool heard = order != "deaf" && order != "none";
     if (heard) {
       note((thevoice_ ? "Speak(" : "SayString(") + std::to_string(numberin(given.rgvarg[0])) +
            ") " + textin(given.rgvarg[1]));

@@ -56,6 +56,12 @@ std::string nameof(IDispatch& token) {
   return plaintext(utf8(callmethod(token, L"GetDescription").text()));
 }
 
+// The object is there on every Windows, the voices are not. One that lists none may speak.
+bool hasnovoice(IDispatch& object) {
+  const Variant all = callmethod(object, L"GetVoices");
+  return getproperty(all.someobject(), L"Count").number(-1) == 0;
+}
+
 // The default first.
 std::vector<NamedVoice> voicesof(IDispatch& object) {
   std::vector<NamedVoice> voices;
@@ -84,7 +90,8 @@ struct SapiVoice::Orders : Desk {
   std::optional<int> rate;
   std::string voice;
   std::vector<std::string> names;
-  bool listed = false;  // or found out that there is no list, or not waited for any more
+  bool listed = false;   // or found out that there is no list
+  bool novoice = false;  // is what the list says
 };
 
 // The thread's side.
@@ -143,13 +150,16 @@ std::optional<Utterance> SapiVoice::Clerk::await() {
 
 // A voice that names none has but one way to sound.
 void SapiVoice::Clerk::listvoices() {
+  bool novoice = false;
   try {
     voice_ = orders_.make();
+    novoice = hasnovoice(*voice_.get());
     voices_ = voicesof(*voice_.get());
   } catch (const PlatformError&) {
     voices_.clear();
   }
   const std::lock_guard guard(orders_.mutex);
+  orders_.novoice = novoice;
   for (const NamedVoice& voice : voices_) orders_.names.push_back(voice.name);
   orders_.listed = true;
   orders_.wake.notify_all();
@@ -223,6 +233,13 @@ SapiVoice::SapiVoice(std::shared_ptr<Mixer> mixer, SpeechLog log, Make make)
     : orders_(std::make_shared<Orders>(std::move(mixer), std::move(log), std::move(make))),
       thread_(
           orders_, [](const std::shared_ptr<Orders>& orders) { Clerk(*orders).work(); }, farewell) {
+  if (knownmute()) throw PlatformError("the system has no voice");
+}
+
+bool SapiVoice::knownmute() {
+  std::unique_lock lock(orders_->mutex);
+  orders_->wake.wait_for(lock, listing, [this] { return orders_->listed; });
+  return orders_->novoice;
 }
 
 SapiVoice::~SapiVoice() = default;
@@ -252,10 +269,8 @@ std::vector<std::string> SapiVoice::voicenames() {
 }
 
 bool SapiVoice::setvoice(std::string_view name) {
-  std::unique_lock lock(orders_->mutex);
-  const bool listed = orders_->wake.wait_for(lock, listing, [this] { return orders_->listed; });
-  orders_->listed = true;
-  if (listed && !name.empty() && !isamong(orders_->names, name)) return false;
+  const std::lock_guard guard(orders_->mutex);
+  if (orders_->listed && !name.empty() && !isamong(orders_->names, name)) return false;
   orders_->voice = name;
   return true;
 }

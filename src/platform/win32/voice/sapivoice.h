@@ -15,13 +15,15 @@
 namespace duskmarch {
 
 // All talk with the voice is on a thread of its own, which says what was asked for last: however
-// slow the voice is, no call waits. A voice that has gone is made again for the next text.
+// slow the voice is, only its making waits, a second at most. A voice that has gone is made again
+// for the next text.
 class SapiVoice final : public Voice {
  public:
   // Makes the system's object; throws PlatformError.
   using Make = std::function<ComPtr<IDispatch>()>;
 
-  // `mixer` is told while the voice speaks. Throws PlatformError when the system knows no voice.
+  // `mixer` is told while the voice speaks. Throws PlatformError when the system has no voice:
+  // knows none, or lists none. What takes longer to find out is taken on trust.
   SapiVoice(std::shared_ptr<Mixer> mixer, SpeechLog log);
   // The same with another object for the voice.
   SapiVoice(std::shared_ptr<Mixer> mixer, SpeechLog log, Make make);
@@ -31,14 +33,16 @@ class SapiVoice final : public Voice {
   void speak(std::string_view text) override;
   void speakafter(std::string_view text) override;
   void hush() override { speak({}); }
-  // Those that have been listed by now, which is done as soon as there is a voice.
+  // Those that have been listed by now.
   std::vector<std::string> voicenames() override;
-  // Waits a second for the list, once. A name is taken on trust where there is none yet.
+  // A name is taken on trust where there is no list yet.
   bool setvoice(std::string_view name) override;
 
  private:
   struct Orders;
   class Clerk;
+
+  bool knownmute();
 
   std::shared_ptr<Orders> orders_;
   DeskThread<Orders> thread_;
