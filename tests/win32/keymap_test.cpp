@@ -58,6 +58,8 @@ TEST(Win32Keys, TheSystemKeepsItsOwn) {
   EXPECT_TRUE(forthesystem({.virtualkey = VK_F4, .shift = modifier::alt}));
   EXPECT_TRUE(forthesystem({.virtualkey = VK_SPACE, .shift = modifier::alt}));
   EXPECT_FALSE(forthesystem({.virtualkey = VK_F4}));
+  constexpr int altgr = modifier::alt | modifier::ctrl;
+  EXPECT_FALSE(forthesystem({.virtualkey = VK_SPACE, .shift = altgr}));
   EXPECT_FALSE(forthesystem({.virtualkey = 'E', .shift = modifier::alt}));
 }
 

@@ -83,7 +83,7 @@ std::optional<KeyPress> virtualkey(WPARAM key, LPARAM details, DWORD time) {
 }
 
 bool forthesystem(const PressedKey& pressed) {
-  return (pressed.shift & modifier::alt) != 0 &&
+  return (pressed.shift & (modifier::alt | modifier::ctrl)) == modifier::alt &&
          (pressed.virtualkey == VK_F4 || pressed.virtualkey == VK_SPACE);
 }
 
