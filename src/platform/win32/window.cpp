@@ -6,6 +6,7 @@
 
 #include <imm.h>
 
+#include "platform/frontend/heldkeys.h"
 #include "platform/win32/keymap.h"
 #include "platform/win32/resources.h"
 #include "platform/win32/screenreader.h"
@@ -244,17 +245,10 @@ void Win32Window::sendkey(int keycode, bool down) {
 
 // True for an Enter or a Space that comes again because it is held.
 bool Win32Window::drops(const MSG& message) {
-  const WORD details = HIWORD(message.lParam);
-  const auto place = static_cast<std::uint32_t>(details & (KF_EXTENDED | 0xFFU));
-  if (message.message == WM_KEYUP || message.message == WM_SYSKEYUP) {
-    heldkeys_.released(place, message.time);
-    return false;
-  }
+  if (message.message == WM_KEYUP || message.message == WM_SYSKEYUP) return false;
   const auto press = virtualkey(message.wParam, message.lParam, message.time);
   const int keycode = press ? press->keycode : 0;
-  if (actsonce(keycode) && heldkeys_.repeats(place, message.time, (details & KF_REPEAT) != 0)) {
-    return true;
-  }
+  if (actsonce(keycode) && (HIWORD(message.lParam) & KF_REPEAT) != 0) return true;
   const bool ours = message.hwnd == handle_ || IsChild(handle_, message.hwnd) != 0;
   if (!ours && boxkeypressed_) boxkeypressed_(keycode);
   return false;

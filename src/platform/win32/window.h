@@ -7,7 +7,6 @@
 
 #include "game.h"
 #include "platform/desktop.h"
-#include "platform/frontend/heldkeys.h"
 #include "platform/frontend/picture.h"
 #include "platform/win32/fonts.h"
 #include "platform/win32/keywatch.h"
@@ -80,7 +79,6 @@ class Win32Window : public Window {
   Picture picture_;
   FontShelf fonts_;
   BackBuffer buffer_;
-  HeldKeys heldkeys_;
   std::vector<HWND> pages_;
   HWND focus_ = nullptr;  // the page that has the focus while the window is active
   std::function<void(int keycode)> boxkeypressed_;
