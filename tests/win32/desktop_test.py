@@ -163,6 +163,7 @@ def the_voice_reads_pages_and_boxes(game, folder):
     game.expect_said("x", "x")
     game.expect_said("n", "n")
     game.expect_said("n", "Left")
+    game.expect_said("x", "shift+Left")
     game.expect_said("OK", "Tab")
     game.expect_said("Cancel", "Tab")
     game.expect_said(PROMPT + "  xn", "Tab")

@@ -205,7 +205,9 @@ LRESULT CALLBACK InputBox::partprocedure(HWND part, UINT message, WPARAM first, 
 void InputBox::focused(HWND part) {
   if (part == ok_) heard_("OK");
   if (part == cancel_) heard_("Cancel");
-  if (part == field_) heard_(before_.empty() ? prompt_ : prompt_ + "  " + before_);
+  if (part != field_) return;
+  caret_ = {};  // what Tab selects is selected from the start
+  heard_(before_.empty() ? prompt_ : prompt_ + "  " + before_);
 }
 
 void InputBox::typed() {
@@ -235,11 +237,8 @@ std::wstring InputBox::text() const {
   return text;
 }
 
-std::size_t InputBox::caret() const {
-  DWORD start = 0;
-  DWORD end = 0;
-  SendMessageW(field_, EM_GETSEL, reinterpret_cast<WPARAM>(&start), reinterpret_cast<LPARAM>(&end));
-  return utf8(text().substr(0, end)).size();
+std::size_t InputBox::caret() {
+  return utf8(text().substr(0, caret_.place(field_))).size();
 }
 
 }  // namespace duskmarch

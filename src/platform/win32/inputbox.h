@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "platform/desktop.h"
+#include "platform/win32/fieldcaret.h"
 #include "platform/win32/handles.h"
 
 namespace duskmarch {
@@ -38,7 +39,7 @@ class InputBox {
   void typed();
   void caretkey(WPARAM key, LPARAM details);
   std::wstring text() const;
-  std::size_t caret() const;  // in bytes of the text before it
+  std::size_t caret();  // in bytes of the text before it
 
   std::wstring title_;
   std::string prompt_;
@@ -50,6 +51,7 @@ class InputBox {
   HWND ok_ = nullptr;
   HWND cancel_ = nullptr;
   GdiObject font_;
+  FieldCaret caret_;
   std::string before_;  // the text as it was last told
   std::string answer_;
 };

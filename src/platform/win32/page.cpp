@@ -51,7 +51,6 @@ void Win32Page::show(std::string_view text) {
   SetWindowTextW(edit_, utf16(text).c_str());
   SendMessageW(edit_, EM_SETSEL, 0, 0);
   SendMessageW(edit_, EM_SCROLLCARET, 0, 0);
-  anchor_ = 0;
   SetWindowPos(edit_, HWND_TOP, 0, 0, 0, 0,
                SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_SHOWWINDOW);
 }
@@ -126,20 +125,12 @@ void Win32Page::movecaret(WPARAM key, LPARAM details) {
   if (const auto read = readmove(*press, before, place())) caretmoved(*window_.game(), *read);
 }
 
-// The end of the selection that moves: the system does not tell which one that is.
-std::size_t Win32Page::caret() {
-  DWORD start = 0;
-  DWORD end = 0;
-  SendMessageW(edit_, EM_GETSEL, reinterpret_cast<WPARAM>(&start), reinterpret_cast<LPARAM>(&end));
-  if (start == end || (anchor_ != start && anchor_ != end)) anchor_ = start;
-  return anchor_ == start ? end : start;
-}
-
 CaretPlace Win32Page::place() {
   const WPARAM number = caretline(edit_);
   const LRESULT start = SendMessageW(edit_, EM_LINEINDEX, number, 0);
   const std::wstring line = lineat(edit_, number, start);
-  const std::size_t column = std::min(caret() - static_cast<std::size_t>(start), line.size());
+  const std::size_t column =
+      std::min(caret_.place(edit_) - static_cast<std::size_t>(start), line.size());
   return {.linenumber = static_cast<int>(number),
           .line = utf8(line),
           .column = utf8(std::wstring_view(line).substr(0, column)).size()};

@@ -5,6 +5,7 @@
 
 #include "platform/desktop.h"
 #include "platform/frontend/reading.h"
+#include "platform/win32/fieldcaret.h"
 #include "platform/win32/window.h"
 
 namespace duskmarch {
@@ -29,14 +30,13 @@ class Win32Page : public Page {
   void make();
   void writelarge();
   void movecaret(WPARAM key, LPARAM details);
-  std::size_t caret();
   CaretPlace place();
 
   Win32Window& window_;
   std::wstring name_;
   HWND edit_ = nullptr;  // made when it is first needed
   GdiObject font_;
-  std::size_t anchor_ = 0;  // where the selection began
+  FieldCaret caret_;
 };
 
 }  // namespace duskmarch
