@@ -4,11 +4,14 @@
 #include <array>
 #include <atomic>
 #include <chrono>
+#include <cstdint>
 #include <cstdlib>
 #include <filesystem>
+#include <fstream>
 #include <mutex>
 #include <optional>
 #include <string>
+#include <system_error>
 #include <thread>
 #include <utility>
 #include <vector>
@@ -70,6 +73,18 @@ class FakeService {
   int connections() const { return connections_; }
   void freeze(bool frozen) { frozen_ = frozen; }
   std::string path() const { return folder_ / "speechd.sock"; }
+  // From now on whoever misses the service starts a program that fails; how often one did.
+  void failtostart() {
+    const std::filesystem::path program = folder_ / "program";
+    std::ofstream(program) << "#!/bin/sh\nprintf x >>\"$0.starts\"\nexit 1\n";
+    std::filesystem::permissions(program, std::filesystem::perms::owner_all);
+    setenv("SPEECHD_CMD", program.c_str(), 1);
+  }
+  std::uintmax_t starts() const {
+    std::error_code none;
+    const std::uintmax_t size = std::filesystem::file_size(folder_ / "program.starts", none);
+    return none ? 0 : size;
+  }
 
   // Texts, and "CANCEL SELF" where it was told so.
   std::vector<std::string> asked() {

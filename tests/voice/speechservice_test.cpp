@@ -136,6 +136,17 @@ TEST_F(SpeechServiceTest, WhatItRefusesIsSaidLaterOrTakenBack) {
   EXPECT_EQ(loggedbutdelays(), Texts(2, "the speech service refused a text"));
 }
 
+TEST_F(SpeechServiceTest, OneThatFailedToStartIsStartedAgain) {
+  jaws_->saystring("One.");
+  EXPECT_TRUE(asked({"One."}));
+  service_.failtostart();
+  service_.kill();
+  jaws_->saystring("Two.");
+  EXPECT_TRUE(eventually([&] { return service_.starts() > 1; }));
+  service_.start();
+  EXPECT_TRUE(asked({"One.", "Two."}));
+}
+
 TEST_F(SpeechServiceTest, AFrozenServiceIsReportedAndSpeaksAgain) {
   jaws_->saystring("One.");
   EXPECT_TRUE(asked({"One."}));

@@ -31,6 +31,10 @@ constexpr milliseconds slow{1000};
 constexpr milliseconds patience{2000};
 // Between two tries to reach a service that is away.
 constexpr milliseconds retry{500};
+// Between two tries to start it: one that has just died may keep the next from starting, and one
+// that cannot run is not to be started all the time.
+constexpr milliseconds firstpause{1000};
+constexpr milliseconds longestpause{60000};
 // How long the end of the program waits for the thread, and once more when it has been cut short.
 constexpr milliseconds farewell{300};
 // More texts than anyone would wait for; of longer queues the oldest are dropped.
@@ -97,8 +101,9 @@ class SpeechService::Clerk {
   std::unique_lock<std::mutex> lock_;
   ServiceConnection connection_;
   int line_ = -1;
-  bool maystart_ = true;  // the service, once an outage: a service that cannot run stays away
-  bool proven_ = false;   // this connection has said something
+  Clock::time_point nextstart_;  // of the service, if it is missing then
+  milliseconds pause_ = firstpause;
+  bool proven_ = false;  // this connection has said something
   bool speaking_ = false;
 };
 
@@ -193,7 +198,8 @@ auto SpeechService::Clerk::call(Call call) {
 }
 
 void SpeechService::Clerk::open() {
-  const std::string trouble = call([this] { return connection_.open(maystart_); });
+  const bool start = Clock::now() >= nextstart_;
+  const std::string trouble = call([&] { return connection_.open(start); });
   if (!incharge()) return;
   proven_ = false;
   if (trouble.empty()) {
@@ -203,7 +209,10 @@ void SpeechService::Clerk::open() {
     desk_->rested();
     return;
   }
-  maystart_ = false;
+  if (start) {
+    nextstart_ = Clock::now() + pause_;
+    pause_ = std::min(2 * pause_, longestpause);
+  }
   desk_->away = true;
   desk_->report("the speech service cannot be reached: " + trouble);
   rest();
@@ -252,7 +261,9 @@ void SpeechService::Clerk::saynext() {
   }
   if (outcome == ServiceConnection::Outcome::lost) return lose();
   if (outcome == ServiceConnection::Outcome::refused) return refused();
-  speaking_ = proven_ = maystart_ = true;
+  speaking_ = proven_ = true;
+  nextstart_ = {};
+  pause_ = firstpause;
   desk_->limit = patience;
   desk_->reported = false;
   desk_->progress();
