@@ -51,8 +51,15 @@ class DeskThread {
     std::unique_lock lock(desk_->mutex);
     desk_->ending = true;
     desk_->wake.notify_all();
-    desk_->wake.wait_for(lock, farewell_, [this] { return desk_->left; });
-    thread_.detach();
+    const bool left = desk_->wake.wait_for(lock, farewell_, [this] { return desk_->left; });
+    lock.unlock();
+    // One that is just ending is not detached: with mingw's threads, the next one to be started
+    // then finds nothing to run, now and then, and crashes.
+    if (left) {
+      thread_.join();
+    } else {
+      thread_.detach();
+    }
   }
 
   // Changes what is on the desk, and tells the thread.
