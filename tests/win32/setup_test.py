@@ -30,7 +30,7 @@ def main(build):
             for name, content in OURS.items():
                 (place / name).write_bytes(content)
         [entry] = game.prefix.rglob("Duskmarch.lnk")
-        assert game.runs("reg", "query", LISTED, "/v", "QuietUninstallString")
+        assert game.ask(f"value\t{LISTED}\tQuietUninstallString")
         game.play(place / "duskmarch.exe")
         game.expect_title("Start new game", "Down")
         (place / "readme.txt").write_bytes(b"")
@@ -47,7 +47,7 @@ def main(build):
         for name, content in OURS.items():
             assert (place / name).read_bytes() == content, name
         game.expect(lambda: not entry.exists(), "no entry in the Start menu")
-        assert not game.runs("reg", "query", LISTED)
+        assert not game.ask(f"value\t{LISTED}\tQuietUninstallString")
 
 
 main(sys.argv[1])

@@ -25,6 +25,10 @@ QUIET = 24000  # frames: no sound of the game has such a gap
 # Of Wine itself: no other device than ours, and none of its own questions.
 WINES_OWN = ((r"HKCU\Software\Wine\Drivers", "Audio", "pulse"),
              (r"HKCU\Software\Wine\WineDbg", "ShowCrashDialog", "0"))
+# For the voice of the system and for JAWS: the classes of standin.cpp.
+CLASSES = "HKLM\\Software\\Classes\\"
+STANDINS = (("SAPI.SpVoice", "{6C0F4A51-2F0E-4B6D-9A11-5D0C376E8001}"),
+            ("FreedomSci.JawsApi", "{6C0F4A51-2F0E-4B6D-9A11-5D0C376E8002}"))
 
 
 class WineSession:
@@ -89,12 +93,12 @@ class WineSession:
     def start_wine(self):
         # It all ends with its first program: none is left from another display.
         self.wineserver("--kill")
-        for key, name, value in WINES_OWN:
-            self.run("reg", "add", key, "/v", name, "/d", value, "/f")
-        shutil.copy(self.build / "speechstandin.dll", self.prefix / "drive_c/windows/system32")
-        self.with_standins()
         self.reader = self.start(WINE, self.build / "windowreader.exe", stdin=subprocess.PIPE,
                                  stdout=subprocess.PIPE)
+        for key, name, value in WINES_OWN:
+            self.set_value(key, name, value)
+        shutil.copy(self.build / "speechstandin.dll", self.prefix / "drive_c/windows/system32")
+        self.with_standins()
 
     def wineserver(self, *options):
         subprocess.run(["/usr/lib/wine/wineserver64", *options], check=False, timeout=LIMIT,
@@ -135,11 +139,19 @@ class WineSession:
                               stdin=subprocess.DEVNULL, timeout=LIMIT)
 
     def with_standins(self):
-        """For the voice of the system and for JAWS."""
-        self.run("regedit", "/S", windows_path(HERE / "standin" / "standin.reg"))
+        for name, number in STANDINS:
+            server = CLASSES + rf"CLSID\{number}\InprocServer32"
+            self.set_value(rf"{CLASSES}{name}\CLSID", "", number)
+            self.set_value(server, "", "speechstandin.dll")
+            self.set_value(server, "ThreadingModel", "Both")
 
     def without_jaws(self):
-        self.run("reg", "delete", r"HKLM\Software\Classes\FreedomSci.JawsApi", "/f")
+        assert self.ask("forget\t" + CLASSES + "FreedomSci.JawsApi")
+
+    def set_value(self, key, name, text):
+        """In the registry, by the reader: it runs anyway, and a start of Wine's own reg.exe failed once
+        in some thousand times."""
+        assert self.ask("\t".join(("setvalue", key, name, text))), key
 
     def start_program(self, program, **environment):
         self.program = self.start(WINE, program, env={**os.environ, **environment})

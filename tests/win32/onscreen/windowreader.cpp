@@ -1,12 +1,16 @@
 // What a screen reader finds in the game's windows, and what the system does to them, for a test
 // in another process. Reads commands from standard input, a line each, and answers each with one
 // line of JSON: `state`; `close`; `endsession`; `hold FILE`, `letgo`; `crash`; `sentkeys`, the keys
-// that programs have sent since it was asked for the first time.
+// that programs have sent since it was asked for the first time; and, with a TAB between their
+// words, `value KEY NAME`, `setvalue KEY NAME TEXT` and `forget KEY` for the registry.
 #include <cstdio>
 #include <iostream>
 #include <mutex>
+#include <sstream>
 #include <string>
+#include <string_view>
 #include <thread>
+#include <vector>
 
 #include <fcntl.h>
 #include <io.h>
@@ -168,6 +172,57 @@ std::string dictate(char letter) {
   return SendInput(1, &input, sizeof input) == 1 ? "true" : "false";
 }
 
+// A key by its whole name, such as HKCU\Software\Wine.
+struct RegistryKey {
+  HKEY root;
+  std::wstring path;
+};
+RegistryKey registrykey(std::string_view name) {
+  const std::size_t backslash = name.find('\\');
+  return {name.substr(0, backslash) == "HKCU" ? HKEY_CURRENT_USER : HKEY_LOCAL_MACHINE,
+          duskmarch::utf16(name.substr(backslash + 1))};
+}
+
+std::string value(const std::string& key, const std::string& name) {
+  const auto [root, path] = registrykey(key);
+  wchar_t text[512];
+  DWORD bytes = sizeof text;
+  const LSTATUS error = RegGetValueW(root, path.c_str(), duskmarch::utf16(name).c_str(),
+                                     RRF_RT_REG_SZ, nullptr, text, &bytes);
+  return error == ERROR_SUCCESS ? quoted(text) : "null";
+}
+
+std::string setvalue(const std::string& key, const std::string& name, const std::string& newtext) {
+  const auto [root, path] = registrykey(key);
+  const std::wstring text = duskmarch::utf16(newtext);
+  const auto bytes = static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t));
+  const LSTATUS error = RegSetKeyValueW(root, path.c_str(), duskmarch::utf16(name).c_str(), REG_SZ,
+                                        text.c_str(), bytes);
+  return error == ERROR_SUCCESS ? "true" : "false";
+}
+
+// With all keys below it.
+std::string forget(const std::string& key) {
+  const auto [root, path] = registrykey(key);
+  return RegDeleteTreeW(root, path.c_str()) == ERROR_SUCCESS ? "true" : "false";
+}
+
+std::vector<std::string> wordsof(const std::string& command) {
+  std::vector<std::string> words;
+  std::istringstream line(command);
+  for (std::string word; std::getline(line, word, '\t');) words.push_back(word);
+  return words;
+}
+
+// Empty for what is no command about the registry.
+std::string registryanswer(const std::string& command) {
+  const std::vector<std::string> words = wordsof(command);
+  if (words.size() == 3 && words[0] == "value") return value(words[1], words[2]);
+  if (words.size() == 4 && words[0] == "setvalue") return setvalue(words[1], words[2], words[3]);
+  if (words.size() == 2 && words[0] == "forget") return forget(words[1]);
+  return "";
+}
+
 }  // namespace
 
 int main() {
@@ -197,7 +252,8 @@ int main() {
     } else if (command == "sentkeys") {
       answer = sentkeys();
     } else {
-      answer = "\"what?\"";
+      answer = registryanswer(command);
+      if (answer.empty()) answer = "\"what?\"";
     }
     std::cout << answer << std::endl;
   }
