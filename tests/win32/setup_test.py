@@ -5,17 +5,21 @@ player's files stay.
 usage: setup_test.py BUILD-FOLDER
 """
 
+import os
 import sys
 
 from winesession import LIMIT, WineSession, windows_path
 
+STARTMENU = "drive_c/users/*/AppData/Roaming/Microsoft/Windows/Start Menu/Programs"
 LISTED = r"HKCU\Software\Microsoft\Windows\CurrentVersion\Uninstall\Duskmarch"
 OURS = {"progress.ini": b" 1 \r\n 7 \r\n\r\n", "game.sav": b"anything", "sounds/menu/mine.wav": b"",
         "my notes.txt": b"left at the pool hall"}
 
 
 def files_in(folder):
-    return {str(path.relative_to(folder)) for path in folder.rglob("*") if path.is_file()}
+    """Even while folders are removed from it."""
+    return {os.path.relpath(os.path.join(place, name), folder)
+            for place, _, names in os.walk(folder) for name in names}
 
 
 def main(build):
@@ -29,7 +33,7 @@ def main(build):
                 assert (place / name).exists(), name
             for name, content in OURS.items():
                 (place / name).write_bytes(content)
-        [entry] = game.prefix.rglob("Duskmarch.lnk")
+        [entry] = game.prefix.glob(STARTMENU + "/Duskmarch.lnk")
         assert game.ask(f"value\t{LISTED}\tQuietUninstallString")
         game.play(place / "duskmarch.exe")
         game.expect_title("Start new game", "Down")
