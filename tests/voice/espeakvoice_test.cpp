@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <utility>
 
 #include <gtest/gtest.h>
 
@@ -165,6 +166,14 @@ TEST_F(EspeakVoiceTest, SurvivesStrangeTexts) {
   EXPECT_EQ(length(std::string(3, '\0')), 0);
   EXPECT_GT(length("<b>bold</b>"), length("bold"));  // markup is text like any other
   EXPECT_NEAR(length("\001400S bold"), length(" 400S bold"), 0.05 * length("bold"));
+}
+
+TEST_F(EspeakVoiceTest, ASpaceOrAMarkByItselfIsToldByItsName) {
+  constexpr std::pair<const char*, const char*> rows[] = {
+      {" ", "space"}, {",", "comma"}, {"\t", "space"}, {"\u2014", "dash"}, {"}", "close brace"}};
+  for (const auto& [text, name] : rows)
+    EXPECT_NEAR(length(text), length(name), 0.01 * length(name)) << text;
+  EXPECT_LT(length("Joe, "), length("Joe comma"));
 }
 
 TEST_F(EspeakVoiceTest, AHugeTextCanBeCutOff) {

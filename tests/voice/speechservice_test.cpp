@@ -49,8 +49,8 @@ class SpeechServiceTest : public testing::Test {
 };
 
 TEST_F(SpeechServiceTest, SaysOneTextAfterTheOther) {
-  for (const char* text : {"One.", "", "two\x01three", "."}) jaws_->saystring(text);
-  EXPECT_TRUE(asked({"One.", "two three", ".."}));  // a line's first dot is doubled on the way
+  for (const char* text : {"One.", "", "two\x01three", ".5", "."}) jaws_->saystring(text);
+  EXPECT_TRUE(asked({"One.", "two three", "..5", "full stop"}));  // a line's first dot is doubled
   EXPECT_EQ(loggedbutdelays(), Texts());
 }
 

@@ -168,6 +168,8 @@ def the_voice_reads_pages_and_boxes(game, folder):
     game.expect_said("Cancel", "Tab")
     game.expect_said(PROMPT + "  xn", "Tab")
     game.expect_said("xn", "BackSpace")  # selected, as ever after Tab
+    game.expect_said("comma", "comma")  # which no voice says by itself
+    game.expect_said("space", "space")
     close(game)  # with the box open
 
 

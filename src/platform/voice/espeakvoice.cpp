@@ -69,7 +69,7 @@ void EspeakVoice::setrate(int rate) {
 }
 
 void EspeakVoice::speak(std::string_view text) {
-  std::string plain = plaintext(text);
+  std::string plain = sayabletext(text);
   {
     const std::lock_guard guard(mutex_);
     turn_ = stream_->cut();
@@ -80,7 +80,7 @@ void EspeakVoice::speak(std::string_view text) {
 }
 
 void EspeakVoice::speakafter(std::string_view text) {
-  std::string plain = plaintext(text);
+  std::string plain = sayabletext(text);
   if (plain.empty()) return;
   {
     const std::lock_guard guard(mutex_);

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 
+#include "platform/voice/characternames.h"
 #include "values/utf8.h"
 
 namespace duskmarch {
@@ -24,6 +25,16 @@ std::string plaintext(std::string_view text) {
       plain.push_back(' ');
     }
     at += point.size;
+  }
+  return plain;
+}
+
+std::string sayabletext(std::string_view text) {
+  std::string plain = plaintext(text);
+  if (plain.empty() || codepointsize(plain, 0) != plain.size()) return plain;
+  const char32_t only = codepointat(plain, 0).value;
+  for (const auto& [character, name] : characternames) {
+    if (character == only) return std::string(name);
   }
   return plain;
 }

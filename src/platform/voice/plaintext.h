@@ -11,4 +11,9 @@ namespace duskmarch {
 // lead it astray in its memory.
 std::string plaintext(std::string_view text);
 
+// What an engine is given to say `text`: the plain text, or, of a text that is nothing but one
+// space or one mark, its name. Engines pass over it, and a page or a field is read by characters
+// too.
+std::string sayabletext(std::string_view text);
+
 }  // namespace duskmarch

@@ -293,7 +293,7 @@ SpeechService::~SpeechService() {
 }
 
 void SpeechService::saystring(std::string_view text) {
-  std::string plain = plaintext(text);
+  std::string plain = sayabletext(text);
   if (plain.find_first_not_of(' ') == std::string::npos) return;
   const std::lock_guard guard(desk_->mutex);
   desk_->checkhung(desk_);

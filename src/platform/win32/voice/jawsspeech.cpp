@@ -128,7 +128,7 @@ JawsSpeech::JawsSpeech(SpeechLog log)
 JawsSpeech::~JawsSpeech() = default;
 
 void JawsSpeech::saystring(std::string_view text) {
-  std::string plain = plaintext(text);
+  std::string plain = sayabletext(text);
   if (plain.find_first_not_of(' ') == std::string::npos) return;
   thread_.order([&](Orders& orders) {
     if (orders.texts.size() == longestqueue) orders.texts.erase(orders.texts.begin() + 1);

@@ -252,14 +252,14 @@ void SapiVoice::speak(std::string_view text) {
   thread_.order([&](Orders& orders) {
     orders.waiting.clear();
     orders.waiting.push_back(
-        {plaintext(text), meanwhile | purging | notmarkup, orders.rate, orders.voice});
+        {sayabletext(text), meanwhile | purging | notmarkup, orders.rate, orders.voice});
   });
 }
 
 void SapiVoice::speakafter(std::string_view text) {
   thread_.order([&](Orders& orders) {
     if (orders.waiting.size() == longestqueue) orders.waiting.pop_front();
-    orders.waiting.push_back({plaintext(text), meanwhile | notmarkup, orders.rate, orders.voice});
+    orders.waiting.push_back({sayabletext(text), meanwhile | notmarkup, orders.rate, orders.voice});
   });
 }
 
