@@ -4,6 +4,8 @@
 #include <system_error>
 #include <utility>
 
+#include "platform/voice/plaintext.h"
+
 namespace duskmarch {
 
 SteadySpeech::SteadySpeech(Make make, std::shared_ptr<Voice> ownvoice, SpeechLog log,
@@ -69,7 +71,7 @@ bool SteadySpeech::away() {
 void SteadySpeech::sayinstead(std::string_view text) {
   if (!ownvoice_) throw PlatformError("there is no speech engine, and no voice instead");
   const bool known = std::exchange(told_, true);
-  ownvoice_->speakafter(known ? std::string(text) : "Speech service lost.  " + std::string(text));
+  ownvoice_->speakafter(known ? std::string(text) : "Speech service lost.  " + sayabletext(text));
   instead_ = true;
 }
 
