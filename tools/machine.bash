@@ -54,7 +54,8 @@ missing() {
 # through a pipe: apt does not wait for a reader that falls behind, and neither would the packages'
 # own scripts, which fail when they cannot write.
 aptget() {
-  local log=build/packages.log options=(APT::Status-Fd=3 Dpkg::Use-Pty=0 DPkg::Lock::Timeout=600)
+  local log=build/packages.log
+  local options=(APT::Status-Fd=3 Acquire::Retries=3 Dpkg::Use-Pty=0 DPkg::Lock::Timeout=600)
   {
     # shellcheck disable=SC2016 # for the shell inside; sudo passes on no descriptors but three
     "${asroot[@]}" sh -c 'exec 3>&1 >&2 && DEBIAN_FRONTEND=noninteractive exec apt-get -y "$@"' \
