@@ -60,6 +60,7 @@ def expect_message(game, start):
     game.expect(lambda: game.window("#32770"), "the box")
     words = [part["text"] for part in game.window("#32770")["parts"]]
     assert any(text.startswith(start) for text in words), words
+    game.expect(lambda: game.gets_keys("Button"), "the box before the others")
 
 
 def close(game):
@@ -158,6 +159,7 @@ def the_voice_reads_pages_and_boxes(game, folder):
     game.press("Escape", "space")
     game.press("Down")
     game.hold("Return")  # which opens the box, and must not answer it
+    game.expect(lambda: game.window("#32770"), "the box")
     game.expect_focus("Edit", "")
     assert not any("Canceled." in line for line in game.said()), game.said()
     game.expect_said("x", "x")

@@ -51,7 +51,8 @@ def main(build):
         for name, content in OURS.items():
             assert (place / name).read_bytes() == content, name
         game.expect(lambda: not entry.exists(), "no entry in the Start menu")
-        assert not game.ask(f"value\t{LISTED}\tQuietUninstallString")
+        game.expect(lambda: not game.ask(f"value\t{LISTED}\tQuietUninstallString"),
+                    "no entry in the list of programs")
 
 
 main(sys.argv[1])

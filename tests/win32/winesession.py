@@ -21,7 +21,7 @@ from session import LIMIT, end_with_the_test, wait  # noqa: E402
 WINE = HERE.parent.parent / "tools" / "wine"
 REPEATS = 12  # of a key that is held
 FRAME = 8  # bytes, of two samples
-QUIET = 24000  # frames: no sound of the game has such a gap
+QUIET = 48000  # frames: no sound of the game has such a gap
 # Of Wine itself: no other device than ours, and none of its own questions.
 WINES_OWN = ((r"HKCU\Software\Wine\Drivers", "Audio", "pulse"),
              (r"HKCU\Software\Wine\WineDbg", "ShowCrashDialog", "0"))
@@ -150,16 +150,16 @@ class WineSession:
 
     def set_value(self, key, name, text):
         """In the registry, by the reader: it runs anyway, and a start of Wine's own reg.exe failed once
-        in some thousand times."""
+        in some thousands."""
         assert self.ask("\t".join(("setvalue", key, name, text))), key
 
     def start_program(self, program, **environment):
         self.program = self.start(WINE, program, env={**os.environ, **environment})
 
     def play(self, program):
-        """Starts the game; returns when its window is there."""
+        """Starts the game; returns when its window gets the keys."""
         self.start_program(program)
-        self.expect(lambda: self.program.poll() is not None or self.window("Duskmarch"),
+        self.expect(lambda: self.program.poll() is not None or self.gets_keys("Duskmarch"),
                     "the window")
 
     # What a screen reader finds.
@@ -178,6 +178,12 @@ class WineSession:
 
     def focus(self):
         return self.ask("state")["focus"] or {"class": None, "text": None}
+
+    def gets_keys(self, kind):
+        """Whether something of that class has the focus, and the display gives a window the keys."""
+        return self.focus()["class"] == kind and subprocess.run(
+            ["xdotool", "getwindowfocus", "getwindowname"], check=False, capture_output=True,
+            timeout=LIMIT).stdout.strip()
 
     def said(self):
         """What the voice was given, line by line."""
@@ -227,8 +233,11 @@ class WineSession:
 
     def expect_focus(self, kind, text, *keys):
         self.press(*keys)
-        self.expect(lambda: self.focus()["class"] == kind
-                    and self.focus()["text"].startswith(text), f"focus on {kind} {text}")
+
+        def has_it():
+            focus = self.focus()
+            return focus["class"] == kind and focus["text"].startswith(text)
+        self.expect(has_it, f"focus on {kind} {text}")
 
     def presses(self):
         return self.keys.read_bytes().count(b"(KeyPress)")
