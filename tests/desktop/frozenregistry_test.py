@@ -48,7 +48,7 @@ def main(build):
                            timeout=LIMIT)
             subprocess.run(["xdotool", "key", "Down"], check=True, timeout=LIMIT)
             # The toolkit's own question to the registry would take most of a minute.
-            wait(lambda: titled("^Start new game"), "a key to act", limit=20)
+            wait(lambda: titled("^Start new game"), "a key to act", limit=10)
         finally:
             os.kill(frozen, signal.SIGCONT)
         reader.expect_window("frame", "Start new game")

@@ -34,7 +34,7 @@ def main(build):
             for name, content in OURS.items():
                 (place / name).write_bytes(content)
         [entry] = game.prefix.glob(STARTMENU + "/Duskmarch.lnk")
-        assert game.ask(f"value\t{LISTED}\tQuietUninstallString")
+        assert game.value(LISTED, "QuietUninstallString")
         game.play(place / "duskmarch.exe")
         game.expect_title("Start new game", "Down")
         (place / "readme.txt").write_bytes(b"")
@@ -51,7 +51,7 @@ def main(build):
         for name, content in OURS.items():
             assert (place / name).read_bytes() == content, name
         game.expect(lambda: not entry.exists(), "no entry in the Start menu")
-        game.expect(lambda: not game.ask(f"value\t{LISTED}\tQuietUninstallString"),
+        game.expect(lambda: not game.value(LISTED, "QuietUninstallString"),
                     "no entry in the list of programs")
 
 

@@ -21,7 +21,7 @@ from session import LIMIT, end_with_the_test, wait  # noqa: E402
 WINE = HERE.parent.parent / "tools" / "wine"
 REPEATS = 12  # of a key that is held
 FRAME = 8  # bytes, of two samples
-QUIET = 48000  # frames: no sound of the game has such a gap
+QUIET = 24000  # frames: no sound of the game has such a gap
 # Of Wine itself: no other device than ours, and none of its own questions.
 WINES_OWN = ((r"HKCU\Software\Wine\Drivers", "Audio", "pulse"),
              (r"HKCU\Software\Wine\WineDbg", "ShowCrashDialog", "0"))
@@ -149,9 +149,11 @@ class WineSession:
         assert self.ask("forget\t" + CLASSES + "FreedomSci.JawsApi")
 
     def set_value(self, key, name, text):
-        """In the registry, by the reader: it runs anyway, and a start of Wine's own reg.exe failed once
-        in some thousands."""
+        """In the registry, by the reader: it runs anyway, and Wine has failed to start its own tool."""
         assert self.ask("\t".join(("setvalue", key, name, text))), key
+
+    def value(self, key, name):
+        return self.ask("\t".join(("value", key, name)))
 
     def start_program(self, program, **environment):
         self.program = self.start(WINE, program, env={**os.environ, **environment})

@@ -31,10 +31,11 @@ std::string plaintext(std::string_view text) {
 
 std::string sayabletext(std::string_view text) {
   std::string plain = plaintext(text);
-  if (plain.empty() || codepointsize(plain, 0) != plain.size()) return plain;
-  const char32_t only = codepointat(plain, 0).value;
+  if (plain.empty()) return plain;
+  const CodePoint first = codepointat(plain, 0);
+  if (first.size != plain.size()) return plain;
   for (const auto& [character, name] : characternames) {
-    if (character == only) return std::string(name);
+    if (character == first.value) return std::string(name);
   }
   return plain;
 }

@@ -41,6 +41,7 @@ TEST(BusyFiles, KeysGoOnAndTheNewestSettingsAreKeptWhenTheFileIsFree) {
   EXPECT_EQ(player.spokenby(key::pageup), Texts{"Sapi rate changed to 3."});
   EXPECT_EQ(player.spokenby(key::pageup), Texts{"Sapi rate changed to 4."});
   EXPECT_EQ(folder.read("progress.ini"), " 0 \r\n 2 \r\n\r\n");
+  EXPECT_TRUE(trybusyfilesagain(player.game()));
   other.letgo();
   EXPECT_FALSE(trybusyfilesagain(player.game()));
   EXPECT_EQ(folder.read("progress.ini"), " 0 \r\n 4 \r\n\r\n");

@@ -39,7 +39,7 @@ std::string quoted(const std::wstring& text) {
 
 // What the window answers; 0 from one that hangs.
 std::size_t answerof(HWND window, UINT message, WPARAM first, LPARAM second) {
-  constexpr UINT patience = 30000;  // milliseconds
+  constexpr UINT patience = 5000;  // milliseconds
   DWORD_PTR answer = 0;
   SendMessageTimeoutW(window, message, first, second, SMTO_NORMAL, patience, &answer);
   return answer;
